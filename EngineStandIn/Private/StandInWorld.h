@@ -1,0 +1,13 @@
+#pragma once
+
+// What the stand-in's own units share about the world; not part of the control surface.
+#include "CoreMinimal.h"
+#include <string>
+
+namespace StandInWorld
+{
+	// Host path of a Windows path, relative paths taken from the editor's current directory.
+	std::string ToHost(const TCHAR* WindowsPath);
+	// The editor's current directory on the host (the binaries folder), if it exists there.
+	std::string CurrentDirectoryOnHost();
+}

@@ -1,0 +1,289 @@
+#include "GenericPlatform/GenericPlatformFile.h"
+#include "HAL/PlatformFileManager.h"
+#include "Misc/Paths.h"
+#include "StandInControl.h"
+#include "StandInWorld.h"
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <sys/stat.h>
+#include <sys/time.h>
+#include <unistd.h>
+#include <vector>
+
+namespace
+{
+	const int64 TicksPerSecond = 10000000;
+	const int64 UnixEpochTicks = 621355968000000000LL;
+
+	FDateTime ToDateTime(const struct timespec& Time)
+	{
+		return FDateTime(UnixEpochTicks + (int64)Time.tv_sec * TicksPerSecond + (int64)Time.tv_nsec / 100);
+	}
+
+	bool StatHost(const TCHAR* Path, struct stat& Info)
+	{
+		return stat(StandInWorld::ToHost(Path).c_str(), &Info) == 0;
+	}
+
+	class FStandInFileHandle : public IFileHandle
+	{
+	public:
+		explicit FStandInFileHandle(FILE* InFile) : File(InFile) {}
+		virtual ~FStandInFileHandle() override { std::fclose(File); }
+		virtual int64 Tell() override { return (int64)std::ftell(File); }
+		virtual bool Seek(int64 NewPosition) override { return std::fseek(File, (long)NewPosition, SEEK_SET) == 0; }
+		virtual bool SeekFromEnd(int64 NewPositionRelativeToEnd) override { return std::fseek(File, (long)NewPositionRelativeToEnd, SEEK_END) == 0; }
+		virtual bool Read(uint8* Destination, int64 BytesToRead) override { return std::fread(Destination, 1, (size_t)BytesToRead, File) == (size_t)BytesToRead; }
+		virtual bool Write(const uint8* Source, int64 BytesToWrite) override { return std::fwrite(Source, 1, (size_t)BytesToWrite, File) == (size_t)BytesToWrite; }
+		virtual bool Flush(const bool bFullFlush) override { return std::fflush(File) == 0; }
+		virtual bool Truncate(int64 NewSize) override { return std::fflush(File) == 0 && ftruncate(fileno(File), (off_t)NewSize) == 0; }
+
+	private:
+		FILE* File;
+	};
+
+	// The disk of the Windows world: every path is mapped into the sandbox, and a directory lists in
+	// case-insensitive name order, as NTFS returns it. Directory links count as directories.
+	class FWindowsPlatformFile : public IPhysicalPlatformFile
+	{
+	public:
+		using IPlatformFile::IterateDirectory;
+		using IPlatformFile::IterateDirectoryStat;
+
+		virtual bool Initialize(IPlatformFile* Inner, const TCHAR* CmdLine) override { return true; }
+
+		virtual bool FileExists(const TCHAR* Filename) override
+		{
+			struct stat Info;
+			return StatHost(Filename, Info) && S_ISREG(Info.st_mode);
+		}
+		virtual int64 FileSize(const TCHAR* Filename) override
+		{
+			struct stat Info;
+			return StatHost(Filename, Info) && S_ISREG(Info.st_mode) ? (int64)Info.st_size : -1;
+		}
+		virtual bool DeleteFile(const TCHAR* Filename) override
+		{
+			return FileExists(Filename) && !IsReadOnly(Filename) && unlink(StandInWorld::ToHost(Filename).c_str()) == 0;
+		}
+		virtual bool IsReadOnly(const TCHAR* Filename) override
+		{
+			struct stat Info;
+			return StatHost(Filename, Info) && (Info.st_mode & S_IWUSR) == 0;
+		}
+		virtual bool MoveFile(const TCHAR* To, const TCHAR* From) override
+		{
+			return std::rename(StandInWorld::ToHost(From).c_str(), StandInWorld::ToHost(To).c_str()) == 0;
+		}
+		virtual bool SetReadOnly(const TCHAR* Filename, bool bNewReadOnlyValue) override
+		{
+			struct stat Info;
+			if (!StatHost(Filename, Info))
+			{
+				return false;
+			}
+			const mode_t Mode = bNewReadOnlyValue ? (Info.st_mode & ~(mode_t)(S_IWUSR | S_IWGRP | S_IWOTH)) : (Info.st_mode | S_IWUSR);
+			return chmod(StandInWorld::ToHost(Filename).c_str(), Mode) == 0;
+		}
+		virtual FDateTime GetTimeStamp(const TCHAR* Filename) override
+		{
+			struct stat Info;
+			return StatHost(Filename, Info) ? ToDateTime(Info.st_mtim) : FDateTime::MinValue();
+		}
+		virtual void SetTimeStamp(const TCHAR* Filename, FDateTime DateTime) override
+		{
+			const int64 SinceEpoch = DateTime.GetTicks() - UnixEpochTicks;
+			struct timeval Times[2];
+			Times[0].tv_sec = Times[1].tv_sec = (time_t)(SinceEpoch / TicksPerSecond);
+			Times[0].tv_usec = Times[1].tv_usec = (suseconds_t)((SinceEpoch % TicksPerSecond) / 10);
+			utimes(StandInWorld::ToHost(Filename).c_str(), Times);
+		}
+		virtual FDateTime GetAccessTimeStamp(const TCHAR* Filename) override
+		{
+			struct stat Info;
+			return StatHost(Filename, Info) ? ToDateTime(Info.st_atim) : FDateTime::MinValue();
+		}
+		virtual FString GetFilenameOnDisk(const TCHAR* Filename) override { return FString(Filename); }
+
+		virtual IFileHandle* OpenRead(const TCHAR* Filename, bool bAllowWrite) override
+		{
+			if (!FileExists(Filename))
+			{
+				return nullptr;
+			}
+			FILE* File = std::fopen(StandInWorld::ToHost(Filename).c_str(), "rb");
+			return File ? new FStandInFileHandle(File) : nullptr;
+		}
+		virtual IFileHandle* OpenWrite(const TCHAR* Filename, bool bAppend, bool bAllowRead) override
+		{
+			FILE* File = std::fopen(StandInWorld::ToHost(Filename).c_str(), bAppend ? (bAllowRead ? "a+b" : "ab") : (bAllowRead ? "w+b" : "wb"));
+			return File ? new FStandInFileHandle(File) : nullptr;
+		}
+
+		virtual bool DirectoryExists(const TCHAR* Directory) override
+		{
+			struct stat Info;
+			return StatHost(Directory, Info) && S_ISDIR(Info.st_mode);
+		}
+		virtual bool CreateDirectory(const TCHAR* Directory) override
+		{
+			return mkdir(StandInWorld::ToHost(Directory).c_str(), 0777) == 0 || DirectoryExists(Directory);
+		}
+		virtual bool DeleteDirectory(const TCHAR* Directory) override
+		{
+			return rmdir(StandInWorld::ToHost(Directory).c_str()) == 0 || !DirectoryExists(Directory);
+		}
+		virtual FFileStatData GetStatData(const TCHAR* FilenameOrDirectory) override
+		{
+			struct stat Info;
+			if (!StatHost(FilenameOrDirectory, Info))
+			{
+				return FFileStatData();
+			}
+			const bool bIsDirectory = S_ISDIR(Info.st_mode);
+			return FFileStatData(ToDateTime(Info.st_ctim), ToDateTime(Info.st_atim), ToDateTime(Info.st_mtim), bIsDirectory ? -1 : (int64)Info.st_size, bIsDirectory, (Info.st_mode & S_IWUSR) == 0);
+		}
+
+		virtual bool IterateDirectory(const TCHAR* Directory, FDirectoryVisitor& Visitor) override
+		{
+			return Walk(Directory, [&Visitor](const FString& Path, const struct stat& Info)
+				{ return Visitor.Visit(*Path, S_ISDIR(Info.st_mode)); });
+		}
+		virtual bool IterateDirectoryStat(const TCHAR* Directory, FDirectoryStatVisitor& Visitor) override
+		{
+			return Walk(Directory, [this, &Visitor](const FString& Path, const struct stat& Info)
+				{ return Visitor.Visit(*Path, GetStatData(*Path)); });
+		}
+
+	private:
+		template <typename FunctorType>
+		bool Walk(const TCHAR* Directory, FunctorType&& VisitEntry)
+		{
+			const std::string HostDirectory = StandInWorld::ToHost(Directory);
+			DIR* Handle = opendir(HostDirectory.c_str());
+			if (Handle == nullptr)
+			{
+				return false;
+			}
+			std::vector<FString> Names;
+			while (const dirent* Entry = readdir(Handle))
+			{
+				const std::string Name = Entry->d_name;
+				if (Name != "." && Name != "..")
+				{
+					Names.push_back(StandIn::FromUtf8(Name));
+				}
+			}
+			closedir(Handle);
+			std::sort(Names.begin(), Names.end(), [](const FString& A, const FString& B)
+				{ return A < B; });
+			for (const FString& Name : Names)
+			{
+				struct stat Info;
+				if (stat((HostDirectory + "/" + StandIn::ToUtf8(Name)).c_str(), &Info) != 0)
+				{
+					continue;
+				}
+				if (!VisitEntry(FString(Directory) / Name, Info))
+				{
+					return false;
+				}
+			}
+			return true;
+		}
+	};
+}
+
+int64 IFileHandle::Size()
+{
+	const int64 Current = Tell();
+	SeekFromEnd();
+	const int64 Result = Tell();
+	Seek(Current);
+	return Result;
+}
+
+IPlatformFile& IPlatformFile::GetPlatformPhysical()
+{
+	static FWindowsPlatformFile Physical;
+	return Physical;
+}
+
+const TCHAR* IPlatformFile::GetPhysicalTypeName()
+{
+	return TEXT("PhysicalFile");
+}
+
+bool IPlatformFile::IterateDirectory(const TCHAR* Directory, FDirectoryVisitorFunc Visitor)
+{
+	struct FFunctionVisitor : public FDirectoryVisitor
+	{
+		FDirectoryVisitorFunc& Func;
+		explicit FFunctionVisitor(FDirectoryVisitorFunc& InFunc) : Func(InFunc) {}
+		virtual bool Visit(const TCHAR* FilenameOrDirectory, bool bIsDirectory) override { return Func(FilenameOrDirectory, bIsDirectory); }
+	} FunctionVisitor(Visitor);
+	return IterateDirectory(Directory, FunctionVisitor);
+}
+
+bool IPlatformFile::IterateDirectoryStat(const TCHAR* Directory, FDirectoryStatVisitorFunc Visitor)
+{
+	struct FFunctionStatVisitor : public FDirectoryStatVisitor
+	{
+		FDirectoryStatVisitorFunc& Func;
+		explicit FFunctionStatVisitor(FDirectoryStatVisitorFunc& InFunc) : Func(InFunc) {}
+		virtual bool Visit(const TCHAR* FilenameOrDirectory, const FFileStatData& StatData) override { return Func(FilenameOrDirectory, StatData); }
+	} FunctionVisitor(Visitor);
+	return IterateDirectoryStat(Directory, FunctionVisitor);
+}
+
+// Creates each missing level from the top, skipping a bare drive, through this layer's CreateDirectory.
+bool IPlatformFile::CreateDirectoryTree(const TCHAR* Directory)
+{
+	FString LocalFilename(Directory);
+	FPaths::NormalizeFilename(LocalFilename);
+	while (LocalFilename.Len() > 1 && LocalFilename.EndsWith(TEXT("/")) && !(LocalFilename.Len() == 3 && LocalFilename[1] == L':'))
+	{
+		LocalFilename = LocalFilename.Left(LocalFilename.Len() - 1);
+	}
+	for (int32 Index = 0; Index <= LocalFilename.Len(); ++Index)
+	{
+		if (Index < LocalFilename.Len() && LocalFilename[Index] != L'/')
+		{
+			continue;
+		}
+		const FString Prefix = LocalFilename.Left(Index);
+		const bool bIsDrive = Prefix.Len() == 2 && Prefix[1] == L':';
+		if (Prefix.IsEmpty() || bIsDrive)
+		{
+			continue;
+		}
+		if (!CreateDirectory(*Prefix) && !DirectoryExists(*Prefix))
+		{
+			break;
+		}
+	}
+	return DirectoryExists(*LocalFilename);
+}
+
+FPlatformFileManager& FPlatformFileManager::Get()
+{
+	static FPlatformFileManager Instance;
+	return Instance;
+}
+
+IPlatformFile& FPlatformFileManager::GetPlatformFile()
+{
+	if (TopmostPlatformFile == nullptr)
+	{
+		TopmostPlatformFile = &IPlatformFile::GetPlatformPhysical();
+	}
+	return *TopmostPlatformFile;
+}
+
+void FPlatformFileManager::SetPlatformFile(IPlatformFile& NewTopmostPlatformFile)
+{
+	TopmostPlatformFile = &NewTopmostPlatformFile;
+	TopmostPlatformFile->InitializeAfterSetActive();
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "CoreTypes.h"
+#include "Containers/Array.h"
+#include "Containers/UnrealString.h"
+#include "Containers/StringView.h"
+#include "Containers/StringConv.h"
+#include "UObject/NameTypes.h"
+#include "Internationalization/Text.h"
+#include "Templates/SharedPointer.h"
+#include "Templates/Function.h"
+#include "Delegates/Delegate.h"
+#include "Misc/Attribute.h"
+#include "Math/Color.h"
+#include "Math/Vector2D.h"
+#include "Logging/LogMacros.h"
+#include "CoreGlobals.h"

@@ -1,0 +1,36 @@
+#pragma once
+
+// The stand-in compiles the module as Windows software: TCHAR is wchar_t and the Windows branch is taken.
+#include <cstddef>
+#include <cstdint>
+
+#define PLATFORM_WINDOWS 1
+
+typedef uint8_t uint8;
+typedef uint16_t uint16;
+typedef uint32_t uint32;
+typedef uint64_t uint64;
+typedef int8_t int8;
+typedef int16_t int16;
+typedef int32_t int32;
+typedef int64_t int64;
+typedef char ANSICHAR;
+typedef wchar_t WIDECHAR;
+typedef wchar_t TCHAR;
+typedef char UTF8CHAR;
+typedef size_t SIZE_T;
+
+#define TEXT_PASTE(x) L##x
+#define TEXT(x) TEXT_PASTE(x)
+
+#define CORE_API
+#define SLATE_API
+#define SLATECORE_API
+#define PROJECTS_API
+#define UE_NODISCARD [[nodiscard]]
+#define FORCEINLINE inline
+
+enum
+{
+	INDEX_NONE = -1
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+// One plugin of a distribution run.
+struct FPakingPluginEntry
+{
+	FString PluginName;
+	bool bOriginal = false;
+	TArray<FString> RequiredDLCs;
+};
+
+// Turns cooked plugins into one pak in the launch folder, with the descriptor files through which the
+// game mounts them.
+class FUGCPaking : public TSharedFromThis<FUGCPaking>
+{
+public:
+	TArray<FPakingPluginEntry> Plugins;
+	// Chooses the content descriptor: ".ugc" when set, ".dlc" when clear.
+	bool bCalverly5Plugin = false;
+
+	// Names of the project plugins whose cooked output holds a development asset registry.
+	TArray<FString> FindCookedPlugins();
+
+	// Runs on the game thread until the pak tool is done; empties Plugins at the end.
+	void Distribute();
+
+private:
+	void WritePakResponseFile(const FString& StagingRoot, const FString& ResponseFilePath, const FString& PakPath, const TArray<FString>& AssetRegistries);
+	void RunUnrealPak(const FString& StagingRoot, const FString& ResponseFilePath, const FString& FirstPluginName, const FString& PakPath, const FString& LaunchDir);
+	void CleanUpDistribution(const TArray<FPakingPluginEntry>& DistributedPlugins, const FString& StagingRoot, const FString& ContentDescriptorPath, const FString& UPluginPath, const FString& PlaceholderRegistryPath);
+};

@@ -1,0 +1,158 @@
+#include "SandboxTest.h"
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+void FSandboxTest::SetUp()
+{
+	std::string Template = (fs::temp_directory_path() / "ugc-sandbox-XXXXXX").string();
+	ASSERT_NE(mkdtemp(&Template[0]), nullptr);
+	Root = Template;
+	ResetWorld(DefaultWorld());
+}
+
+void FSandboxTest::TearDown()
+{
+	std::error_code Error;
+	fs::remove_all(Root, Error);
+}
+
+StandIn::FWorld FSandboxTest::DefaultWorld() const
+{
+	StandIn::FWorld World;
+	World.DriveRoot = Root.string();
+	return World;
+}
+
+void FSandboxTest::ResetWorld(const StandIn::FWorld& World)
+{
+	StandIn::ResetWorld(World);
+}
+
+fs::path FSandboxTest::Host(const std::string& WindowsPath) const
+{
+	return StandIn::HostPath(StandIn::FromUtf8(WindowsPath));
+}
+
+void FSandboxTest::WriteFile(const std::string& WindowsPath, const std::string& Bytes) const
+{
+	const fs::path Path = Host(WindowsPath);
+	fs::create_directories(Path.parent_path());
+	std::ofstream(Path, std::ios::binary) << Bytes;
+}
+
+std::string FSandboxTest::ReadFile(const std::string& WindowsPath) const
+{
+	std::ifstream Stream(Host(WindowsPath), std::ios::binary);
+	std::ostringstream Bytes;
+	Bytes << Stream.rdbuf();
+	return Bytes.str();
+}
+
+bool FSandboxTest::Exists(const std::string& WindowsPath) const
+{
+	std::error_code Error;
+	return fs::symlink_status(Host(WindowsPath), Error).type() != fs::file_type::not_found;
+}
+
+bool FSandboxTest::IsLink(const std::string& WindowsPath) const
+{
+	std::error_code Error;
+	return fs::is_symlink(fs::symlink_status(Host(WindowsPath), Error));
+}
+
+std::vector<std::string> FSandboxTest::FilesBelow(const std::string& WindowsPath) const
+{
+	std::vector<std::string> Files;
+	const fs::path Base = Host(WindowsPath);
+	std::error_code Error;
+	for (fs::recursive_directory_iterator It(Base, Error), End; It != End; It.increment(Error))
+	{
+		if (It->is_regular_file())
+		{
+			Files.push_back(fs::relative(It->path(), Base).generic_string());
+		}
+	}
+	std::sort(Files.begin(), Files.end());
+	return Files;
+}
+
+void FSandboxTest::InstallRecordingTool(const std::string& WindowsPath, int ExitCode) const
+{
+	const fs::path Path = Host(WindowsPath);
+	fs::create_directories(Path.parent_path());
+	fs::copy_file(RECORDING_TOOL_PATH, Path, fs::copy_options::overwrite_existing);
+	std::ofstream(Path.string() + ".exitcode") << ExitCode;
+}
+
+int FSandboxTest::ToolCallCount(const std::string& ToolWindowsPath) const
+{
+	int Count = 0;
+	while (fs::exists(Host(ToolWindowsPath).string() + ".call" + std::to_string(Count + 1) + ".args"))
+	{
+		++Count;
+	}
+	return Count;
+}
+
+std::vector<std::string> FSandboxTest::ToolCallArguments(const std::string& ToolWindowsPath, int CallNumber) const
+{
+	std::ifstream Stream(Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + ".args", std::ios::binary);
+	std::ostringstream Bytes;
+	Bytes << Stream.rdbuf();
+	return SplitLines(Bytes.str());
+}
+
+std::string FSandboxTest::ToolCallResponseFile(const std::string& ToolWindowsPath, int CallNumber) const
+{
+	std::ifstream Stream(Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + ".response", std::ios::binary);
+	std::ostringstream Bytes;
+	Bytes << Stream.rdbuf();
+	return Bytes.str();
+}
+
+std::vector<std::string> FSandboxTest::LogLines() const
+{
+	std::vector<std::string> Lines;
+	for (const StandIn::FLogRecord& Record : StandIn::LogRecords())
+	{
+		Lines.push_back(Record.OutputLine());
+	}
+	return Lines;
+}
+
+std::vector<std::string> FSandboxTest::LogTempLines() const
+{
+	std::vector<std::string> Lines;
+	for (const StandIn::FLogRecord& Record : StandIn::LogRecords())
+	{
+		if (Record.Category == TEXT("LogTemp"))
+		{
+			Lines.push_back(Record.OutputLine());
+		}
+	}
+	return Lines;
+}
+
+std::vector<std::string> FSandboxTest::MessageBoxTexts() const
+{
+	std::vector<std::string> Texts;
+	for (const StandIn::FMessageBoxRecord& Record : StandIn::MessageBoxes())
+	{
+		Texts.push_back(StandIn::ToUtf8(Record.Message.ToString()));
+	}
+	return Texts;
+}
+
+std::vector<std::string> SplitLines(const std::string& Text)
+{
+	std::vector<std::string> Lines;
+	std::istringstream Stream(Text);
+	for (std::string Line; std::getline(Stream, Line);)
+	{
+		Lines.push_back(Line);
+	}
+	return Lines;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "StandInControl.h"
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+// A fresh Windows world in a temporary folder for every test; paths are given in Windows form.
+class FSandboxTest : public ::testing::Test
+{
+protected:
+	void SetUp() override;
+	void TearDown() override;
+
+	// The default world on this test's drive root; change it and pass it to ResetWorld.
+	StandIn::FWorld DefaultWorld() const;
+	void ResetWorld(const StandIn::FWorld& World);
+
+	std::filesystem::path Host(const std::string& WindowsPath) const;
+	void WriteFile(const std::string& WindowsPath, const std::string& Bytes) const;
+	std::string ReadFile(const std::string& WindowsPath) const;
+	// True for files, folders and links, dangling or not.
+	bool Exists(const std::string& WindowsPath) const;
+	bool IsLink(const std::string& WindowsPath) const;
+	// Every file below a folder, as sorted paths relative to it.
+	std::vector<std::string> FilesBelow(const std::string& WindowsPath) const;
+
+	// Puts the recording tool at a Windows path; it will exit with the given code.
+	void InstallRecordingTool(const std::string& WindowsPath, int ExitCode = 0) const;
+	int ToolCallCount(const std::string& ToolWindowsPath) const;
+	std::vector<std::string> ToolCallArguments(const std::string& ToolWindowsPath, int CallNumber) const;
+	std::string ToolCallResponseFile(const std::string& ToolWindowsPath, int CallNumber) const;
+
+	// Log lines as the output log shows them, and message box texts, in order.
+	std::vector<std::string> LogLines() const;
+	std::vector<std::string> LogTempLines() const;
+	std::vector<std::string> MessageBoxTexts() const;
+
+	std::filesystem::path Root;
+};
+
+std::vector<std::string> SplitLines(const std::string& Text);
