@@ -22,8 +22,8 @@ namespace StandIn
 		FString ProjectFilePath = TEXT("C:/Work/Moravane/Moravane.uproject");
 	};
 
-	// Starts a fresh world: records cleared, physical layer on top of the platform-file chain, and
-	// UGC_DRIVE_ROOT and PATH (with the stand-in's cmd.exe first) set for child programs.
+	// Starts a fresh world: drive C: present, records cleared, physical layer on top of the platform-file
+	// chain, and UGC_DRIVE_ROOT and PATH (with the stand-in's cmd.exe first) set for child programs.
 	void ResetWorld(const FWorld& World);
 	const FWorld& GetWorld();
 

@@ -48,6 +48,8 @@ namespace StandIn
 		State.Logs.clear();
 		State.MessageBoxes.clear();
 		State.FileAttributes.clear();
+		// Drive C: is always there; other drives exist where the sandbox has their folder.
+		mkdir((World.DriveRoot + "/C").c_str(), 0777);
 		setenv(WindowsDrivePath::DriveRootVariable(), World.DriveRoot.c_str(), 1);
 		const std::string Path = std::string(STANDIN_PROGRAMS_DIR) + ":" + State.OriginalPath;
 		setenv("PATH", Path.c_str(), 1);

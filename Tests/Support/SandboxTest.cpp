@@ -5,6 +5,17 @@
 
 namespace fs = std::filesystem;
 
+namespace
+{
+	std::string ReadHostFile(const fs::path& Path)
+	{
+		std::ifstream Stream(Path, std::ios::binary);
+		std::ostringstream Bytes;
+		Bytes << Stream.rdbuf();
+		return Bytes.str();
+	}
+}
+
 void FSandboxTest::SetUp()
 {
 	std::string Template = (fs::temp_directory_path() / "ugc-sandbox-XXXXXX").string();
@@ -45,10 +56,7 @@ void FSandboxTest::WriteFile(const std::string& WindowsPath, const std::string& 
 
 std::string FSandboxTest::ReadFile(const std::string& WindowsPath) const
 {
-	std::ifstream Stream(Host(WindowsPath), std::ios::binary);
-	std::ostringstream Bytes;
-	Bytes << Stream.rdbuf();
-	return Bytes.str();
+	return ReadHostFile(Host(WindowsPath));
 }
 
 bool FSandboxTest::Exists(const std::string& WindowsPath) const
@@ -99,18 +107,17 @@ int FSandboxTest::ToolCallCount(const std::string& ToolWindowsPath) const
 
 std::vector<std::string> FSandboxTest::ToolCallArguments(const std::string& ToolWindowsPath, int CallNumber) const
 {
-	std::ifstream Stream(Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + ".args", std::ios::binary);
-	std::ostringstream Bytes;
-	Bytes << Stream.rdbuf();
-	return SplitLines(Bytes.str());
+	return SplitLines(ReadHostFile(Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + ".args"));
 }
 
 std::string FSandboxTest::ToolCallResponseFile(const std::string& ToolWindowsPath, int CallNumber) const
 {
-	std::ifstream Stream(Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + ".response", std::ios::binary);
-	std::ostringstream Bytes;
-	Bytes << Stream.rdbuf();
-	return Bytes.str();
+	return ReadHostFile(Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + ".response");
+}
+
+std::string FSandboxTest::ToolCallPackedFile(const std::string& ToolWindowsPath, int CallNumber, const std::string& MountPath) const
+{
+	return ReadHostFile(fs::path(Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + ".packed") / MountPath);
 }
 
 std::vector<std::string> FSandboxTest::LogLines() const

@@ -31,6 +31,8 @@ protected:
 	int ToolCallCount(const std::string& ToolWindowsPath) const;
 	std::vector<std::string> ToolCallArguments(const std::string& ToolWindowsPath, int CallNumber) const;
 	std::string ToolCallResponseFile(const std::string& ToolWindowsPath, int CallNumber) const;
+	// A file the response file handed to the tool named, kept as the tool saw it, by its mount path.
+	std::string ToolCallPackedFile(const std::string& ToolWindowsPath, int CallNumber, const std::string& MountPath) const;
 
 	// Log lines as the output log shows them, and message box texts, in order.
 	std::vector<std::string> LogLines() const;

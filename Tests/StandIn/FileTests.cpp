@@ -1,0 +1,95 @@
+#include "CoreMinimal.h"
+#include "HAL/FileManager.h"
+#include "HAL/PlatformFileManager.h"
+#include "Misc/FileHelper.h"
+#include "SandboxTest.h"
+
+using FStandInFileTest = FSandboxTest;
+
+namespace
+{
+	// As the file(1) tool reads it.
+	std::string Encoding(const std::filesystem::path& Path)
+	{
+		std::string Output;
+		if (FILE* Pipe = popen(("file -b --mime-encoding '" + Path.string() + "'").c_str(), "r"))
+		{
+			char Buffer[256];
+			while (fgets(Buffer, sizeof(Buffer), Pipe))
+			{
+				Output += Buffer;
+			}
+			pclose(Pipe);
+		}
+		return Output;
+	}
+}
+
+TEST_F(FStandInFileTest, SaveStringToFileWritesSevenBitTextAsBytesAndOtherTextAsUtf16)
+{
+	ASSERT_TRUE(FFileHelper::SaveStringToFile(FString(TEXT("{\n  \"a\": 1\n}")), TEXT("C:/out/ascii.txt")));
+	EXPECT_EQ(ReadFile("C:/out/ascii.txt"), "{\n  \"a\": 1\n}");
+	EXPECT_EQ(Encoding(Host("C:/out/ascii.txt")), "us-ascii\n");
+
+	ASSERT_TRUE(FFileHelper::SaveStringToFile(FString(TEXT("ř\x00e9")), TEXT("C:/out/wide.txt")));
+	EXPECT_EQ(ReadFile("C:/out/wide.txt"), std::string("\xFF\xFE\x59\x01\xE9\x00", 6));
+	EXPECT_EQ(Encoding(Host("C:/out/wide.txt")), "utf-16le\n");
+
+	ASSERT_TRUE(FFileHelper::SaveStringToFile(FString(), TEXT("C:/out/empty.txt")));
+	EXPECT_TRUE(Exists("C:/out/empty.txt"));
+	EXPECT_EQ(ReadFile("C:/out/empty.txt"), "");
+}
+
+TEST_F(FStandInFileTest, FindFilesRecursiveListsFoldersFirstInNameOrderAndFollowsDirectoryLinks)
+{
+	WriteFile("C:/Cooked/Content/b.uasset", "b");
+	WriteFile("C:/Cooked/Content/A.uasset", "a");
+	WriteFile("C:/Cooked/Content/Maps/m", "no extension");
+	WriteFile("C:/Cooked/top.txt", "t");
+	WriteFile("C:/Stage/own.txt", "o");
+	std::filesystem::create_directory_symlink(Host("C:/Cooked"), Host("C:/Stage/Link"));
+
+	TArray<FString> Found;
+	Found.Add(TEXT("kept"));
+	IFileManager::Get().FindFilesRecursive(Found, TEXT("C:/Stage"), TEXT("*.*"), true, false, false);
+	IFileManager::Get().FindFilesRecursive(Found, TEXT("C:/Stage/Link"), TEXT("*.*"), true, false, false);
+
+	std::vector<std::string> Names;
+	for (const FString& Name : Found)
+	{
+		Names.push_back(StandIn::ToUtf8(Name));
+	}
+	EXPECT_EQ(Names, (std::vector<std::string>{
+		"kept",
+		"C:/Stage/own.txt",
+		"C:/Stage/Link/top.txt",
+		"C:/Stage/Link/Content/A.uasset",
+		"C:/Stage/Link/Content/b.uasset",
+		"C:/Stage/Link/Content/Maps/m",
+		"C:/Stage/Link/top.txt",
+		"C:/Stage/Link/Content/A.uasset",
+		"C:/Stage/Link/Content/b.uasset",
+		"C:/Stage/Link/Content/Maps/m",
+	}));
+
+	IFileManager::Get().FindFilesRecursive(Found, TEXT("C:/Missing"), TEXT("*.*"), true, false, true);
+	EXPECT_EQ(Found.Num(), 0);
+}
+
+TEST_F(FStandInFileTest, ThePlatformFileChainCreatesTreesAndDeletesOnlyFiles)
+{
+	IPlatformFile& PlatformFile = FPlatformFileManager::Get().GetPlatformFile();
+	EXPECT_EQ(&PlatformFile, &IPlatformFile::GetPlatformPhysical());
+	EXPECT_TRUE(PlatformFile.CreateDirectoryTree(TEXT("C:/pellow/Moravane/Plugins/DLC")));
+	EXPECT_TRUE(std::filesystem::is_directory(Host("C:/pellow/Moravane/Plugins/DLC")));
+	EXPECT_TRUE(PlatformFile.DirectoryExists(TEXT("C:/pellow/")));
+	EXPECT_FALSE(PlatformFile.FileExists(TEXT("C:/pellow")));
+
+	WriteFile("C:/Work/Engine/Binaries/Win64/relative.txt", "found from the binaries folder");
+	EXPECT_TRUE(IFileManager::Get().FileExists(TEXT("relative.txt")));
+	EXPECT_TRUE(IFileManager::Get().Delete(TEXT("C:/Work/Engine/Binaries/Win64/relative.txt")));
+	EXPECT_FALSE(Exists("C:/Work/Engine/Binaries/Win64/relative.txt"));
+	EXPECT_TRUE(IFileManager::Get().Delete(TEXT("C:/nothing.txt"))) << "a missing file is not required to exist";
+	EXPECT_FALSE(IFileManager::Get().Delete(TEXT("C:/nothing.txt"), true, false, true));
+	EXPECT_FALSE(IFileManager::Get().FileExists(TEXT("")));
+}
