@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds everything and runs every test.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+Scripts/install-dependencies.sh
+cmake --preset default
+cmake --build --preset default
+ctest --preset default
