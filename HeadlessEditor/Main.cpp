@@ -1,0 +1,78 @@
+// ugc-editor: a headless editor that boots the stand-in engine on a Windows world kept in a folder, runs
+// the UGCEditor module there and operates its user interface as a person would.
+#include "CommandLine.h"
+#include "DistributeCommand.h"
+#include "StandInControl.h"
+#include <filesystem>
+#include <iostream>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+	bool IsDrivePath(const std::string& Path)
+	{
+		return Path.size() >= 3 && std::isalpha((unsigned char)Path[0]) && Path[1] == ':' && (Path[2] == '/' || Path[2] == '\\');
+	}
+
+	// The engine's launch folder always ends in a separator.
+	std::string AsFolder(std::string Path)
+	{
+		if (Path.back() != '/' && Path.back() != '\\')
+		{
+			Path += '/';
+		}
+		return Path;
+	}
+
+	StandIn::FWorld MakeWorld(const FEditorCommandLine& CommandLine)
+	{
+		for (const std::string* Path : {&CommandLine.LaunchDir, &CommandLine.ProjectFile})
+		{
+			if (!IsDrivePath(*Path))
+			{
+				throw FUsageError{"not a Windows drive path: " + *Path};
+			}
+		}
+		if (!fs::is_directory(CommandLine.Root))
+		{
+			throw FUsageError{"--root is not a folder: " + CommandLine.Root};
+		}
+		StandIn::FWorld World;
+		World.DriveRoot = fs::absolute(CommandLine.Root).lexically_normal().string();
+		World.LaunchDir = StandIn::FromUtf8(AsFolder(CommandLine.LaunchDir));
+		// The editor is taken to be started from its install folder, as the module assumes.
+		World.BaseDir = StandIn::FromUtf8(AsFolder(CommandLine.LaunchDir)).Replace(TEXT("\\"), TEXT("/")) + TEXT("Engine/Binaries/Win64/");
+		World.ProjectFilePath = StandIn::FromUtf8(CommandLine.ProjectFile);
+		return World;
+	}
+}
+
+int main(int argc, char** argv)
+{
+	FEditorCommandLine CommandLine;
+	StandIn::FWorld World;
+	try
+	{
+		CommandLine = ParseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
+		if (CommandLine.bHelp)
+		{
+			std::cout << UsageText();
+			return 0;
+		}
+		World = MakeWorld(CommandLine);
+	}
+	catch (const FUsageError& Error)
+	{
+		std::cerr << "ugc-editor: " << Error.Message << "\nTry 'ugc-editor --help'.\n";
+		return 2;
+	}
+
+	StandIn::ResetWorld(World);
+	StandIn::SetLogListener([](const StandIn::FLogRecord& Record)
+		{ std::cout << Record.OutputLine() << std::endl; });
+	StandIn::SetMessageBoxListener([](const StandIn::FMessageBoxRecord& Record)
+		{ std::cout << "Message: " << StandIn::ToUtf8(Record.Message.ToString()) << std::endl; });
+
+	return RunDistribute(CommandLine);
+}
