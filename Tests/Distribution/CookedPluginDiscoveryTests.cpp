@@ -2,19 +2,6 @@
 
 using FCookedPluginDiscoveryTest = FDistributionTest;
 
-namespace
-{
-	std::vector<std::string> ToStrings(const TArray<FString>& Names)
-	{
-		std::vector<std::string> Result;
-		for (const FString& Name : Names)
-		{
-			Result.push_back(StandIn::ToUtf8(Name));
-		}
-		return Result;
-	}
-}
-
 TEST_F(FCookedPluginDiscoveryTest, FindsOnlyPluginsCookedUnderTheirOwnNameInWalkOrder)
 {
 	Cook("Zulu");
@@ -26,7 +13,7 @@ TEST_F(FCookedPluginDiscoveryTest, FindsOnlyPluginsCookedUnderTheirOwnNameInWalk
 
 	const TArray<FString> Found = MakeShared<FUGCPaking>()->FindCookedPlugins();
 
-	EXPECT_EQ(ToStrings(Found), (std::vector<std::string>{"alpha", "Zulu"}));
+	EXPECT_EQ(ToUtf8Strings(Found), (std::vector<std::string>{"alpha", "Zulu"}));
 	EXPECT_EQ(LogTempLines(), (std::vector<std::string>{
 		"LogTemp: Scanning for plugins in: C:/Work/Moravane/Plugins/",
 		"LogTemp: Found plugin folder: alpha",
@@ -59,6 +46,6 @@ TEST_F(FCookedPluginDiscoveryTest, LooksInTheProjectTheEditorWasStartedWith)
 	ResetWorld(World);
 	WriteFile("D:/Mods/Moravane/Plugins/Route/Saved/Cooked/WindowsNoEditor/Moravane/Plugins/Route/Content/Metadata/DevelopmentAssetRegistry.bin", "dev");
 
-	EXPECT_EQ(ToStrings(MakeShared<FUGCPaking>()->FindCookedPlugins()), (std::vector<std::string>{"Route"}));
+	EXPECT_EQ(ToUtf8Strings(MakeShared<FUGCPaking>()->FindCookedPlugins()), (std::vector<std::string>{"Route"}));
 	EXPECT_EQ(LogTempLines().front(), "LogTemp: Scanning for plugins in: D:/Mods/Moravane/Plugins/");
 }

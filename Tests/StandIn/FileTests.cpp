@@ -54,12 +54,7 @@ TEST_F(FStandInFileTest, FindFilesRecursiveListsFoldersFirstInNameOrderAndFollow
 	IFileManager::Get().FindFilesRecursive(Found, TEXT("C:/Stage"), TEXT("*.*"), true, false, false);
 	IFileManager::Get().FindFilesRecursive(Found, TEXT("C:/Stage/Link"), TEXT("*.*"), true, false, false);
 
-	std::vector<std::string> Names;
-	for (const FString& Name : Found)
-	{
-		Names.push_back(StandIn::ToUtf8(Name));
-	}
-	EXPECT_EQ(Names, (std::vector<std::string>{
+	EXPECT_EQ(ToUtf8Strings(Found), (std::vector<std::string>{
 		"kept",
 		"C:/Stage/own.txt",
 		"C:/Stage/Link/top.txt",

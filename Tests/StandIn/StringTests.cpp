@@ -4,19 +4,6 @@
 #include "Misc/Paths.h"
 #include "SandboxTest.h"
 
-namespace
-{
-	std::vector<std::string> ToStrings(const TArray<FString>& Items)
-	{
-		std::vector<std::string> Result;
-		for (const FString& Item : Items)
-		{
-			Result.push_back(StandIn::ToUtf8(Item));
-		}
-		return Result;
-	}
-}
-
 TEST(StandInStrings, CombineJoinsPartsWithOneSlashAndCollapsesNothing)
 {
 	EXPECT_EQ(FPaths::Combine(TEXT("C:/x/"), TEXT("a")), TEXT("C:/x/a"));
@@ -42,11 +29,11 @@ TEST(StandInStrings, ParseIntoArraySplitsOnTheWholeDelimiterWithoutTrimming)
 {
 	TArray<FString> Pieces;
 	EXPECT_EQ(FString(TEXT("A, ,B")).ParseIntoArray(Pieces, TEXT(","), true), 3);
-	EXPECT_EQ(ToStrings(Pieces), (std::vector<std::string>{"A", " ", "B"}));
+	EXPECT_EQ(ToUtf8Strings(Pieces), (std::vector<std::string>{"A", " ", "B"}));
 	FString(TEXT("A,,B,")).ParseIntoArray(Pieces, TEXT(","), false);
-	EXPECT_EQ(ToStrings(Pieces), (std::vector<std::string>{"A", "", "B", ""}));
+	EXPECT_EQ(ToUtf8Strings(Pieces), (std::vector<std::string>{"A", "", "B", ""}));
 	FString(TEXT("a::b:c")).ParseIntoArray(Pieces, TEXT("::"), true);
-	EXPECT_EQ(ToStrings(Pieces), (std::vector<std::string>{"a", "b:c"}));
+	EXPECT_EQ(ToUtf8Strings(Pieces), (std::vector<std::string>{"a", "b:c"}));
 	EXPECT_EQ(FString().ParseIntoArray(Pieces, TEXT(","), false), 0);
 
 	FString Padded = TEXT(" \t DLC_C \r\n");

@@ -163,3 +163,13 @@ std::vector<std::string> SplitLines(const std::string& Text)
 	}
 	return Lines;
 }
+
+std::vector<std::string> ToUtf8Strings(const TArray<FString>& Items)
+{
+	std::vector<std::string> Result;
+	for (const FString& Item : Items)
+	{
+		Result.push_back(StandIn::ToUtf8(Item));
+	}
+	return Result;
+}

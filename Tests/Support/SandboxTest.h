@@ -43,3 +43,4 @@ protected:
 };
 
 std::vector<std::string> SplitLines(const std::string& Text);
+std::vector<std::string> ToUtf8Strings(const TArray<FString>& Items);
