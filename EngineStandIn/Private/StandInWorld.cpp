@@ -54,6 +54,7 @@ namespace StandIn
 		const std::string Path = std::string(STANDIN_PROGRAMS_DIR) + ":" + State.OriginalPath;
 		setenv("PATH", Path.c_str(), 1);
 		FPlatformFileManager::Get().SetPlatformFile(IPlatformFile::GetPlatformPhysical());
+		StandInSlate::ResetWindows();
 	}
 
 	const FWorld& GetWorld()

@@ -11,3 +11,9 @@ namespace StandInWorld
 	// The editor's current directory on the host (the binaries folder), if it exists there.
 	std::string CurrentDirectoryOnHost();
 }
+
+namespace StandInSlate
+{
+	// Forgets the windows added so far.
+	void ResetWindows();
+} // namespace StandInSlate

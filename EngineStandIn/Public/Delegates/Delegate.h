@@ -6,6 +6,20 @@
 #include <type_traits>
 #include <utility>
 
+// The member-function pointer type for a class and a call signature, const or not.
+template <bool bConst, typename Class, typename FuncType>
+struct TMemFunPtrType;
+template <typename Class, typename RetType, typename... ArgTypes>
+struct TMemFunPtrType<false, Class, RetType(ArgTypes...)>
+{
+	typedef RetType (Class::*Type)(ArgTypes...);
+};
+template <typename Class, typename RetType, typename... ArgTypes>
+struct TMemFunPtrType<true, Class, RetType(ArgTypes...)>
+{
+	typedef RetType (Class::*Type)(ArgTypes...) const;
+};
+
 // Single-cast delegates with the engine's factories. Payload values are appended after the delegate's own
 // parameters; a delegate bound to a shared object holds it weakly and does nothing once it is gone.
 template <typename FuncType>
@@ -15,6 +29,12 @@ template <typename RetValType, typename... ParamTypes>
 class TDelegate<RetValType(ParamTypes...)>
 {
 public:
+	// Methods that can be bound, with their payload types after the delegate's own parameters.
+	template <typename UserClass, typename... VarTypes>
+	using TMethodPtr = typename TMemFunPtrType<false, UserClass, RetValType(ParamTypes..., VarTypes...)>::Type;
+	template <typename UserClass, typename... VarTypes>
+	using TConstMethodPtr = typename TMemFunPtrType<true, UserClass, RetValType(ParamTypes..., VarTypes...)>::Type;
+
 	TDelegate() = default;
 
 	template <typename FunctorType, typename... VarTypes>

@@ -1,11 +1,15 @@
 #include "UGCPaking.h"
 
+#include "SPakingDialog.h"
+
+#include "Framework/Application/SlateApplication.h"
 #include "HAL/FileManager.h"
 #include "HAL/PlatformFileManager.h"
 #include "HAL/PlatformProcess.h"
 #include "Misc/FileHelper.h"
 #include "Misc/MessageDialog.h"
 #include "Misc/Paths.h"
+#include "Widgets/SWindow.h"
 
 #include <stdlib.h>
 
@@ -152,6 +156,27 @@ namespace
 	{
 		return FPaths::ConvertRelativePathToFull(FPaths::LaunchDir());
 	}
+}
+
+void FUGCPaking::OpenPakingDialog()
+{
+	const TArray<FString> CookedPlugins = FindCookedPlugins();
+
+	// clang-format off
+	TSharedRef<SWindow> Window = SNew(SWindow)
+		.Title(LOCTEXT("PakingDialogTitle", "Paking Dialog"))
+		.ClientSize(FVector2D(400, 400))
+		.SupportsMaximize(false)
+		.SupportsMinimize(false);
+
+	Window->SetContent(
+		SNew(SPakingDialog)
+		.Paking(AsShared())
+		.CookedPlugins(CookedPlugins));
+	// clang-format on
+
+	// No parent and not modal, so the editor stays usable while the dialog is open.
+	FSlateApplication::Get().AddWindow(Window, true);
 }
 
 TArray<FString> FUGCPaking::FindCookedPlugins()

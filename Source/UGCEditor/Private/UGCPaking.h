@@ -19,6 +19,9 @@ public:
 	// Chooses the content descriptor: ".ugc" when set, ".dlc" when clear.
 	bool bCalverly5Plugin = false;
 
+	// Opens a new paking dialog, in a window of its own, on a fresh look for cooked plugins.
+	void OpenPakingDialog();
+
 	// Names of the project plugins whose cooked output holds a development asset registry.
 	TArray<FString> FindCookedPlugins();
 

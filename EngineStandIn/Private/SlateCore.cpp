@@ -1,0 +1,154 @@
+#include "Fonts/SlateFontInfo.h"
+#include "Layout/Children.h"
+#include "SlotBase.h"
+#include "Styling/CoreStyle.h"
+#include "Styling/ISlateStyle.h"
+#include "Styling/SlateTypes.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/SNullWidget.h"
+#include "Widgets/SWidget.h"
+#include "Widgets/SWindow.h"
+#include <utility>
+#include <vector>
+
+void SWidget::SetDebugInfo(const ANSICHAR* InType, const ANSICHAR* InFile, int32 OnLine, size_t InAllocSize)
+{
+	TypeOfWidget = FName(InType);
+}
+
+namespace
+{
+	class SNullWidgetContent : public SWidget
+	{
+	public:
+		SNullWidgetContent()
+			: NoChildren(this) {}
+		virtual FChildren* GetChildren() override { return &NoChildren; }
+
+	private:
+		FNoChildren NoChildren;
+	};
+
+	TSharedRef<SWidget> MakeNullWidget()
+	{
+		TSharedRef<SWidget> Widget = MakeShareable(new SNullWidgetContent());
+		Widget->SetDebugInfo("SNullWidget", __FILE__, __LINE__, sizeof(SNullWidgetContent));
+		return Widget;
+	}
+} // namespace
+
+TSharedRef<SWidget> SNullWidget::NullWidget = MakeNullWidget();
+
+FSlotBase::FSlotBase()
+	: Widget(SNullWidget::NullWidget) {}
+
+TSharedRef<SWidget> FNoChildren::GetChildAt(int32 Index)
+{
+	checkNoEntry();
+}
+
+TSharedRef<const SWidget> FNoChildren::GetChildAt(int32 Index) const
+{
+	checkNoEntry();
+}
+
+const FSlotBase& FNoChildren::GetSlotAt(int32 ChildIndex) const
+{
+	checkNoEntry();
+}
+
+void SBoxPanel::ClearChildren()
+{
+	Children.Empty();
+}
+
+void SHorizontalBox::Construct(const FArguments& InArgs)
+{
+	for (FSlot* Slot : InArgs.Slots)
+	{
+		Children.Add(Slot);
+	}
+}
+
+void SVerticalBox::Construct(const FArguments& InArgs)
+{
+	for (FSlot* Slot : InArgs.Slots)
+	{
+		Children.Add(Slot);
+	}
+}
+
+void SWindow::Construct(const FArguments& InArgs)
+{
+	Title = InArgs._Title;
+	InitialDesiredSize = InArgs._ClientSize;
+	bHasMaximizeButton = InArgs._SupportsMaximize;
+	bHasMinimizeButton = InArgs._SupportsMinimize;
+}
+
+void SWindow::SetContent(TSharedRef<SWidget> InContent)
+{
+	ChildSlot[InContent];
+}
+
+const FName FButtonStyle::TypeName(TEXT("FButtonStyle"));
+
+const FButtonStyle& FButtonStyle::GetDefault()
+{
+	static const FButtonStyle Default;
+	return Default;
+}
+
+FName ISlateStyle::Join(FName A, const ANSICHAR* B)
+{
+	return B == nullptr ? A : FName(A.ToString() + FString(B));
+}
+
+namespace
+{
+	// The widget styles of the core style that the editor's widgets ask for.
+	class FCoreStyleSet : public ISlateStyle
+	{
+	public:
+		FCoreStyleSet()
+		{
+			ButtonStyles.emplace_back(FName(TEXT("Button")), FButtonStyle());
+			ButtonStyles.emplace_back(FName(TEXT("NoBorder")), FButtonStyle());
+		}
+
+	protected:
+		virtual const FSlateWidgetStyle* GetWidgetStyleInternal(const FName DesiredTypeName, const FName StyleName) const override
+		{
+			if (DesiredTypeName != FButtonStyle::TypeName)
+			{
+				return nullptr;
+			}
+			for (const std::pair<FName, FButtonStyle>& Entry : ButtonStyles)
+			{
+				if (Entry.first == StyleName)
+				{
+					return &Entry.second;
+				}
+			}
+			return nullptr;
+		}
+
+	private:
+		std::vector<std::pair<FName, FButtonStyle>> ButtonStyles;
+	};
+} // namespace
+
+const ISlateStyle& FCoreStyle::Get()
+{
+	static const FCoreStyleSet Instance;
+	return Instance;
+}
+
+FSlateFontInfo FCoreStyle::GetDefaultFontStyle(const FName InTypefaceFontName, const int32 InSize, const FFontOutlineSettings& InOutlineSettings)
+{
+	FSlateFontInfo Font;
+	Font.TypefaceFontName = InTypefaceFontName;
+	Font.Size = InSize;
+	Font.OutlineSettings = InOutlineSettings;
+	return Font;
+}

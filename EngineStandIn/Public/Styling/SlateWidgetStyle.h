@@ -1,0 +1,9 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+struct SLATECORE_API FSlateWidgetStyle
+{
+	virtual ~FSlateWidgetStyle() {}
+	virtual const FName GetTypeName() const = 0;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+class FChildren;
+
+// The base of every widget. The stand-in keeps a retained tree and paints nothing: a widget holds the
+// arguments it was built with, and its children are reached through GetChildren, as in the engine.
+class SLATECORE_API SWidget : public TSharedFromThis<SWidget>
+{
+public:
+	virtual ~SWidget() {}
+
+	virtual FChildren* GetChildren() = 0;
+
+	// The class name as written at SNew.
+	FName GetType() const { return TypeOfWidget; }
+	FString GetTypeAsString() const { return TypeOfWidget.ToString(); }
+
+	void SetDebugInfo(const ANSICHAR* InType, const ANSICHAR* InFile, int32 OnLine, size_t InAllocSize);
+
+protected:
+	SWidget() {}
+
+private:
+	FName TypeOfWidget;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Widgets/DeclarativeSyntaxSupport.h"
+#include "Widgets/SCompoundWidget.h"
+
+// A top-level window. It shows nothing until it is handed to FSlateApplication::AddWindow.
+class SLATECORE_API SWindow : public SCompoundWidget
+{
+public:
+	// clang-format off
+	SLATE_BEGIN_ARGS(SWindow)
+		: _Title(), _ClientSize(FVector2D(0.0f, 0.0f)), _SupportsMaximize(true), _SupportsMinimize(true) {}
+		SLATE_ATTRIBUTE(FText, Title)
+		SLATE_ARGUMENT(FVector2D, ClientSize)
+		SLATE_ARGUMENT(bool, SupportsMaximize)
+		SLATE_ARGUMENT(bool, SupportsMinimize)
+	SLATE_END_ARGS()
+	// clang-format on
+
+	void Construct(const FArguments& InArgs);
+	void SetContent(TSharedRef<SWidget> InContent);
+
+private:
+	friend struct FStandInSlateAccess;
+
+	TAttribute<FText> Title;
+	FVector2D InitialDesiredSize;
+	bool bHasMaximizeButton = true;
+	bool bHasMinimizeButton = true;
+};

@@ -1,0 +1,118 @@
+#include "SandboxTest.h"
+#include "Styling/CoreStyle.h"
+#include "Widgets/Input/SButton.h"
+#include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Input/SComboBox.h"
+#include "Widgets/Input/SEditableText.h"
+#include "Widgets/Input/SEditableTextBox.h"
+#include "Widgets/SBoxPanel.h"
+
+// The engine behaviour that the stand-in's widgets reproduce.
+
+TEST_F(FSandboxTest, UnboundCheckBoxKeepsAndTogglesItsOwnState)
+{
+	std::vector<ECheckBoxState> Events;
+	const auto Record = [&Events](ECheckBoxState State)
+	{
+		Events.push_back(State);
+	};
+	const TSharedRef<SWidget> Free = SNew(SCheckBox).OnCheckStateChanged_Lambda(Record);
+	const TSharedRef<SWidget> Undetermined = SNew(SCheckBox).IsChecked(ECheckBoxState::Undetermined).OnCheckStateChanged_Lambda(Record);
+	const auto AlwaysChecked = []()
+	{
+		return ECheckBoxState::Checked;
+	};
+	const TSharedRef<SWidget> Bound = SNew(SCheckBox).IsChecked_Lambda(AlwaysChecked).OnCheckStateChanged_Lambda(Record);
+
+	StandIn::ClickCheckBox(Free);
+	EXPECT_EQ(StandIn::Paint(Free).CheckState, ECheckBoxState::Checked);
+	StandIn::ClickCheckBox(Free);
+	EXPECT_EQ(StandIn::Paint(Free).CheckState, ECheckBoxState::Unchecked);
+	StandIn::ClickCheckBox(Undetermined);
+	EXPECT_EQ(StandIn::Paint(Undetermined).CheckState, ECheckBoxState::Unchecked);
+	StandIn::ClickCheckBox(Bound);
+	EXPECT_EQ(StandIn::Paint(Bound).CheckState, ECheckBoxState::Checked);
+	EXPECT_EQ(Events, (std::vector<ECheckBoxState>{ECheckBoxState::Checked, ECheckBoxState::Unchecked, ECheckBoxState::Unchecked, ECheckBoxState::Unchecked}));
+}
+
+TEST_F(FSandboxTest, ComboBoxListsItsOptionsAsTheyAreWhenItOpens)
+{
+	TArray<TSharedPtr<FString>> Options = {MakeShareable(new FString(TEXT("One")))};
+	std::vector<std::pair<std::string, ESelectInfo::Type>> Selections;
+	const auto MakeRow = [](TSharedPtr<FString> Option) -> TSharedRef<SWidget>
+	{
+		return SNew(SEditableText).Text(FText::FromString(*Option));
+	};
+	const auto RecordSelection = [&Selections](TSharedPtr<FString> Option, ESelectInfo::Type Info)
+	{
+		Selections.emplace_back(StandIn::ToUtf8(*Option), Info);
+	};
+	const TSharedRef<SWidget> Combo = SNew(SComboBox<TSharedPtr<FString>>).OptionsSource(&Options).OnGenerateWidget_Lambda(MakeRow).OnSelectionChanged_Lambda(RecordSelection);
+	Options.Add(MakeShareable(new FString(TEXT("Two"))));
+
+	const std::vector<TSharedRef<SWidget>> Rows = StandIn::OpenComboBox(Combo);
+	ASSERT_EQ(Rows.size(), 2u);
+	EXPECT_EQ(StandIn::ToUtf8(StandIn::ShownText(Rows[1]).ToString()), "Two");
+
+	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, TEXT("Two")));
+	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, 1));
+	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, 0));
+	EXPECT_FALSE(StandIn::ChooseComboOption(Combo, TEXT("Three")));
+	EXPECT_FALSE(StandIn::ChooseComboOption(Combo, 2));
+	// Choosing the selected option again fires nothing.
+	EXPECT_EQ(Selections, (std::vector<std::pair<std::string, ESelectInfo::Type>>{{"Two", ESelectInfo::OnMouseClick}, {"One", ESelectInfo::OnMouseClick}}));
+}
+
+TEST_F(FSandboxTest, BoxSlotsStretchByDefaultAndClearTogether)
+{
+	TSharedPtr<SVerticalBox> Exposed;
+	const TSharedRef<SWidget> Box = SAssignNew(Exposed, SVerticalBox) + SVerticalBox::Slot().Padding(3)[SNew(SButton)];
+	Exposed->AddSlot()[SNew(SHorizontalBox) + SHorizontalBox::Slot().FillWidth(0.25f)[SNew(SCheckBox)]];
+
+	EXPECT_EQ(Exposed, TSharedPtr<SWidget>(Box));
+	const std::vector<StandIn::FChildSlot> Slots = StandIn::ChildSlots(Box);
+	ASSERT_EQ(Slots.size(), 2u);
+	EXPECT_EQ(StandIn::WidgetType(Slots[0].Widget), "SButton");
+	EXPECT_EQ(Slots[0].Padding, FMargin(3));
+	EXPECT_EQ(Slots[1].Padding, FMargin(0));
+	EXPECT_FLOAT_EQ(Slots[1].Fill, 1.0f);
+	EXPECT_FLOAT_EQ(StandIn::ChildSlots(Slots[1].Widget).at(0).Fill, 0.25f);
+
+	Exposed->ClearChildren();
+	EXPECT_EQ(Exposed->NumSlots(), 0);
+}
+
+TEST_F(FSandboxTest, TextWidgetsTakeTypingUnlessReadOnlyAndBoundTextIsReadAtEachPaint)
+{
+	int32 Paints = 0;
+	const auto CountPaints = [&Paints]()
+	{
+		return FText::FromString(FString::Printf(TEXT("Paint %d"), ++Paints));
+	};
+	const TSharedRef<SWidget> Bound = SNew(SEditableText).Text_Lambda(CountPaints);
+	EXPECT_EQ(StandIn::ToUtf8(StandIn::Paint(Bound).Text.ToString()), "Paint 1");
+	EXPECT_EQ(StandIn::ToUtf8(StandIn::Paint(Bound).Text.ToString()), "Paint 2");
+
+	const TSharedRef<SWidget> ReadOnly = SNew(SEditableText).Text(FText::FromString(TEXT("Label"))).IsReadOnly(true);
+	EXPECT_FALSE(StandIn::CommitText(ReadOnly, TEXT("Typed")));
+	EXPECT_EQ(StandIn::ToUtf8(StandIn::ShownText(ReadOnly).ToString()), "Label");
+
+	std::vector<std::pair<std::string, ETextCommit::Type>> Commits;
+	const auto RecordCommit = [&Commits](const FText& Text, ETextCommit::Type Type)
+	{
+		Commits.emplace_back(StandIn::ToUtf8(Text.ToString()), Type);
+	};
+	const TSharedRef<SWidget> TextBox = SNew(SEditableTextBox).OnTextCommitted_Lambda(RecordCommit);
+	EXPECT_TRUE(StandIn::CommitText(TextBox, TEXT("Typed"), ETextCommit::OnUserMovedFocus));
+	EXPECT_EQ(StandIn::ToUtf8(StandIn::ShownText(TextBox).ToString()), "Typed");
+	EXPECT_EQ(Commits, (std::vector<std::pair<std::string, ETextCommit::Type>>{{"Typed", ETextCommit::OnUserMovedFocus}}));
+}
+
+TEST_F(FSandboxTest, CoreStyleKnowsItsButtonStylesAndFallsBackToTheDefault)
+{
+	const ISlateStyle& Style = FCoreStyle::Get();
+	EXPECT_NE(&Style.GetWidgetStyle<FButtonStyle>("NoBorder"), &Style.GetWidgetStyle<FButtonStyle>("Button"));
+	EXPECT_EQ(&Style.GetWidgetStyle<FButtonStyle>("NoBorder"), &Style.GetWidgetStyle<FButtonStyle>("noborder"));
+	EXPECT_EQ(&Style.GetWidgetStyle<FButtonStyle>("NoSuchStyle"), &FButtonStyle::GetDefault());
+	EXPECT_EQ(StandIn::Paint(SNew(SButton)).ButtonStyle, &Style.GetWidgetStyle<FButtonStyle>("Button"));
+}
