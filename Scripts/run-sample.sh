@@ -19,7 +19,7 @@ command=(build/HeadlessEditor/ugc-editor --root "$sandbox" distribute --calverly
 	--plugin CalverlyBranchLine --original --dlcs "Moravane_Base, Calverly5_Signals"
 	--plugin ExpressTimetable --original
 	--plugin ThirdPartyLocos)
-echo "\$ ${command[*]}"
+printf '$'; printf ' %q' "${command[@]}"; echo
 "${command[@]}"
 
 echo
