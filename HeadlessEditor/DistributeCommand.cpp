@@ -25,16 +25,18 @@ namespace
 
 	TSharedRef<SWidget> FindByType(const TSharedRef<SWidget>& Root, const std::string& TypePrefix)
 	{
-		TSharedPtr<SWidget> Found = FindWidget(Root, [&TypePrefix](const TSharedRef<SWidget>& Widget)
-			{ return StandIn::WidgetType(Widget).rfind(TypePrefix, 0) == 0; });
+		TSharedPtr<SWidget> Found = FindWidget(Root, [&TypePrefix](const TSharedRef<SWidget>& Widget) {
+			return StandIn::WidgetType(Widget).rfind(TypePrefix, 0) == 0;
+		});
 		check(Found.IsValid());
 		return Found.ToSharedRef();
 	}
 
 	TSharedRef<SWidget> FindButton(const TSharedRef<SWidget>& Root, const TCHAR* Caption)
 	{
-		TSharedPtr<SWidget> Found = FindWidget(Root, [Caption](const TSharedRef<SWidget>& Widget)
-			{ return StandIn::WidgetType(Widget) == "SButton" && StandIn::Paint(Widget).Text.ToString().Equals(Caption, ESearchCase::CaseSensitive); });
+		TSharedPtr<SWidget> Found = FindWidget(Root, [Caption](const TSharedRef<SWidget>& Widget) {
+			return StandIn::WidgetType(Widget) == "SButton" && StandIn::Paint(Widget).Text.ToString().Equals(Caption, ESearchCase::CaseSensitive);
+		});
 		check(Found.IsValid());
 		return Found.ToSharedRef();
 	}

@@ -69,10 +69,12 @@ int main(int argc, char** argv)
 	}
 
 	StandIn::ResetWorld(World);
-	StandIn::SetLogListener([](const StandIn::FLogRecord& Record)
-		{ std::cout << Record.OutputLine() << std::endl; });
-	StandIn::SetMessageBoxListener([](const StandIn::FMessageBoxRecord& Record)
-		{ std::cout << "Message: " << StandIn::ToUtf8(Record.Message.ToString()) << std::endl; });
+	StandIn::SetLogListener([](const StandIn::FLogRecord& Record) {
+		std::cout << Record.OutputLine() << std::endl;
+	});
+	StandIn::SetMessageBoxListener([](const StandIn::FMessageBoxRecord& Record) {
+		std::cout << "Message: " << StandIn::ToUtf8(Record.Message.ToString()) << std::endl;
+	});
 
 	return RunDistribute(CommandLine);
 }

@@ -9,7 +9,10 @@
 namespace WindowsDrivePath
 {
 	// The environment variable through which child programs learn the drive root.
-	inline const char* DriveRootVariable() { return "UGC_DRIVE_ROOT"; }
+	inline const char* DriveRootVariable()
+	{
+		return "UGC_DRIVE_ROOT";
+	}
 
 	inline bool HasDriveLetter(const std::string& Path)
 	{

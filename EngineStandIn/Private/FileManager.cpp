@@ -30,7 +30,8 @@ namespace
 	class FArchiveFileWriterGeneric : public FArchive
 	{
 	public:
-		explicit FArchiveFileWriterGeneric(IFileHandle* InHandle) : Handle(InHandle) {}
+		explicit FArchiveFileWriterGeneric(IFileHandle* InHandle)
+			: Handle(InHandle) {}
 		virtual ~FArchiveFileWriterGeneric() override { Close(); }
 		virtual void Serialize(void* V, int64 Length) override
 		{
@@ -124,15 +125,14 @@ namespace
 		static void FindFiles(TArray<FString>& Result, const FString& Directory, const FString& Pattern, bool Files, bool Directories)
 		{
 			const bool bMatchAll = Pattern == TEXT("*") || Pattern == TEXT("*.*");
-			GetLowLevel().IterateDirectory(*Directory, [&](const TCHAR* Path, bool bIsDirectory)
+			GetLowLevel().IterateDirectory(*Directory, [&](const TCHAR* Path, bool bIsDirectory) {
+				const FString Leaf = FPaths::GetCleanFilename(Path);
+				if (((bIsDirectory && Directories) || (!bIsDirectory && Files)) && (bMatchAll || MatchesWildcard(Leaf.ToUpper(), Pattern.ToUpper())))
 				{
-					const FString Leaf = FPaths::GetCleanFilename(Path);
-					if (((bIsDirectory && Directories) || (!bIsDirectory && Files)) && (bMatchAll || MatchesWildcard(Leaf.ToUpper(), Pattern.ToUpper())))
-					{
-						Result.Add(Leaf);
-					}
-					return true;
-				});
+					Result.Add(Leaf);
+				}
+				return true;
+			});
 		}
 
 		static void FindFilesRecursiveInternal(TArray<FString>& FileNames, const FString& StartDirectory, const FString& Filename, bool Files, bool Directories)

@@ -78,11 +78,26 @@ namespace StandIn
 		return Line + ToUtf8(Message);
 	}
 
-	const std::vector<FLogRecord>& LogRecords() { return Records().Logs; }
-	const std::vector<FMessageBoxRecord>& MessageBoxes() { return Records().MessageBoxes; }
-	const std::vector<FFileAttributesRecord>& FileAttributeCalls() { return Records().FileAttributes; }
-	void SetLogListener(std::function<void(const FLogRecord&)> Listener) { Records().LogListener = std::move(Listener); }
-	void SetMessageBoxListener(std::function<void(const FMessageBoxRecord&)> Listener) { Records().MessageBoxListener = std::move(Listener); }
+	const std::vector<FLogRecord>& LogRecords()
+	{
+		return Records().Logs;
+	}
+	const std::vector<FMessageBoxRecord>& MessageBoxes()
+	{
+		return Records().MessageBoxes;
+	}
+	const std::vector<FFileAttributesRecord>& FileAttributeCalls()
+	{
+		return Records().FileAttributes;
+	}
+	void SetLogListener(std::function<void(const FLogRecord&)> Listener)
+	{
+		Records().LogListener = std::move(Listener);
+	}
+	void SetMessageBoxListener(std::function<void(const FMessageBoxRecord&)> Listener)
+	{
+		Records().MessageBoxListener = std::move(Listener);
+	}
 
 	std::string ToUtf8(const FString& Text)
 	{

@@ -50,7 +50,10 @@ FUTF8ToTCHAR::FUTF8ToTCHAR(const ANSICHAR* Source, int32 SourceLen)
 	while (Index < Bytes.size())
 	{
 		const unsigned char Lead = (unsigned char)Bytes[Index];
-		int Extra = Lead < 0x80 ? 0 : (Lead >> 5) == 0x6 ? 1 : (Lead >> 4) == 0xE ? 2 : (Lead >> 3) == 0x1E ? 3 : -1;
+		int Extra = Lead < 0x80 ? 0 : (Lead >> 5) == 0x6 ? 1
+								  : (Lead >> 4) == 0xE	 ? 2
+								  : (Lead >> 3) == 0x1E	 ? 3
+														 : -1;
 		if (Extra < 0 || Index + (size_t)Extra > Bytes.size() - 1)
 		{
 			// Not UTF-8: the replacement character, as the engine's converter writes.

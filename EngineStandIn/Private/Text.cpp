@@ -1,6 +1,7 @@
 #include "Internationalization/Text.h"
 
-FText::FText() : Data(MakeShared<const FTextData>()) {}
+FText::FText()
+	: Data(MakeShared<const FTextData>()) {}
 
 FText FText::FromString(const FString& String)
 {

@@ -30,7 +30,8 @@ namespace
 	class FStandInFileHandle : public IFileHandle
 	{
 	public:
-		explicit FStandInFileHandle(FILE* InFile) : File(InFile) {}
+		explicit FStandInFileHandle(FILE* InFile)
+			: File(InFile) {}
 		virtual ~FStandInFileHandle() override { std::fclose(File); }
 		virtual int64 Tell() override { return (int64)std::ftell(File); }
 		virtual bool Seek(int64 NewPosition) override { return std::fseek(File, (long)NewPosition, SEEK_SET) == 0; }
@@ -148,13 +149,15 @@ namespace
 
 		virtual bool IterateDirectory(const TCHAR* Directory, FDirectoryVisitor& Visitor) override
 		{
-			return Walk(Directory, [&Visitor](const FString& Path, const struct stat& Info)
-				{ return Visitor.Visit(*Path, S_ISDIR(Info.st_mode)); });
+			return Walk(Directory, [&Visitor](const FString& Path, const struct stat& Info) {
+				return Visitor.Visit(*Path, S_ISDIR(Info.st_mode));
+			});
 		}
 		virtual bool IterateDirectoryStat(const TCHAR* Directory, FDirectoryStatVisitor& Visitor) override
 		{
-			return Walk(Directory, [this, &Visitor](const FString& Path, const struct stat& Info)
-				{ return Visitor.Visit(*Path, GetStatData(*Path)); });
+			return Walk(Directory, [this, &Visitor](const FString& Path, const struct stat& Info) {
+				return Visitor.Visit(*Path, GetStatData(*Path));
+			});
 		}
 
 	private:
@@ -177,8 +180,9 @@ namespace
 				}
 			}
 			closedir(Handle);
-			std::sort(Names.begin(), Names.end(), [](const FString& A, const FString& B)
-				{ return A < B; });
+			std::sort(Names.begin(), Names.end(), [](const FString& A, const FString& B) {
+				return A < B;
+			});
 			for (const FString& Name : Names)
 			{
 				struct stat Info;
@@ -221,7 +225,8 @@ bool IPlatformFile::IterateDirectory(const TCHAR* Directory, FDirectoryVisitorFu
 	struct FFunctionVisitor : public FDirectoryVisitor
 	{
 		FDirectoryVisitorFunc& Func;
-		explicit FFunctionVisitor(FDirectoryVisitorFunc& InFunc) : Func(InFunc) {}
+		explicit FFunctionVisitor(FDirectoryVisitorFunc& InFunc)
+			: Func(InFunc) {}
 		virtual bool Visit(const TCHAR* FilenameOrDirectory, bool bIsDirectory) override { return Func(FilenameOrDirectory, bIsDirectory); }
 	} FunctionVisitor(Visitor);
 	return IterateDirectory(Directory, FunctionVisitor);
@@ -232,7 +237,8 @@ bool IPlatformFile::IterateDirectoryStat(const TCHAR* Directory, FDirectoryStatV
 	struct FFunctionStatVisitor : public FDirectoryStatVisitor
 	{
 		FDirectoryStatVisitorFunc& Func;
-		explicit FFunctionStatVisitor(FDirectoryStatVisitorFunc& InFunc) : Func(InFunc) {}
+		explicit FFunctionStatVisitor(FDirectoryStatVisitorFunc& InFunc)
+			: Func(InFunc) {}
 		virtual bool Visit(const TCHAR* FilenameOrDirectory, const FFileStatData& StatData) override { return Func(FilenameOrDirectory, StatData); }
 	} FunctionVisitor(Visitor);
 	return IterateDirectoryStat(Directory, FunctionVisitor);

@@ -15,13 +15,13 @@ TEST_F(FCookedPluginDiscoveryTest, FindsOnlyPluginsCookedUnderTheirOwnNameInWalk
 
 	EXPECT_EQ(ToUtf8Strings(Found), (std::vector<std::string>{"alpha", "Zulu"}));
 	EXPECT_EQ(LogTempLines(), (std::vector<std::string>{
-		"LogTemp: Scanning for plugins in: C:/Work/Moravane/Plugins/",
-		"LogTemp: Found plugin folder: alpha",
-		"LogTemp: Found plugin folder: Half",
-		"LogTemp: Found plugin folder: Raw",
-		"LogTemp: Found plugin folder: Renamed",
-		"LogTemp: Found plugin folder: Zulu",
-	}));
+								  "LogTemp: Scanning for plugins in: C:/Work/Moravane/Plugins/",
+								  "LogTemp: Found plugin folder: alpha",
+								  "LogTemp: Found plugin folder: Half",
+								  "LogTemp: Found plugin folder: Raw",
+								  "LogTemp: Found plugin folder: Renamed",
+								  "LogTemp: Found plugin folder: Zulu",
+							  }));
 }
 
 TEST_F(FCookedPluginDiscoveryTest, AnEmptyOrMissingPluginsFolderGivesNoPlugins)
@@ -34,9 +34,9 @@ TEST_F(FCookedPluginDiscoveryTest, AnEmptyOrMissingPluginsFolderGivesNoPlugins)
 	ResetWorld(DefaultWorld());
 	EXPECT_EQ(MakeShared<FUGCPaking>()->FindCookedPlugins().Num(), 0);
 	EXPECT_EQ(LogTempLines(), (std::vector<std::string>{
-		"LogTemp: Scanning for plugins in: C:/Work/Moravane/Plugins/",
-		"LogTemp: Error: Plugin directory does not exist: C:/Work/Moravane/Plugins/",
-	}));
+								  "LogTemp: Scanning for plugins in: C:/Work/Moravane/Plugins/",
+								  "LogTemp: Error: Plugin directory does not exist: C:/Work/Moravane/Plugins/",
+							  }));
 }
 
 TEST_F(FCookedPluginDiscoveryTest, LooksInTheProjectTheEditorWasStartedWith)

@@ -147,14 +147,14 @@ TEST_F(FDistributionTest, EditionFlagWritesUgcDescriptorsNamedAfterTheFirstPlugi
 	EXPECT_EQ(ToolCallArguments(PakTool, 1).front(), "C:/Work/Moravane-WindowsNoEditor-First.pak");
 	const std::vector<std::string> Log = LogTempLines();
 	EXPECT_EQ(std::vector<std::string>(Log.begin(), Log.begin() + 7), (std::vector<std::string>{
-		"LogTemp: File AssetRegistry for not your original plugin is generated",
-		"LogTemp: UGC file Second.ugc is generated",
-		"LogTemp: File Second.uplugin is generated",
-		"LogTemp: File Second.upluginmanifest is generated",
-		"LogTemp: UGC file Third.ugc is generated",
-		"LogTemp: File Third.uplugin is generated",
-		"LogTemp: File Third.upluginmanifest is generated",
-	}));
+																		  "LogTemp: File AssetRegistry for not your original plugin is generated",
+																		  "LogTemp: UGC file Second.ugc is generated",
+																		  "LogTemp: File Second.uplugin is generated",
+																		  "LogTemp: File Second.upluginmanifest is generated",
+																		  "LogTemp: UGC file Third.ugc is generated",
+																		  "LogTemp: File Third.uplugin is generated",
+																		  "LogTemp: File Third.upluginmanifest is generated",
+																	  }));
 }
 
 TEST_F(FDistributionTest, DescriptorsAreSingleByteJsonForPlainNamesAndUtf16ForOthers)
@@ -205,8 +205,9 @@ TEST_F(FDistributionTest, MergesEveryFurtherOriginalIntoTheFirstAndPacksNoMetada
 
 	Distribute({Entry("A", true), Entry("B", true), Entry("C", true)}, false);
 
-	const auto RegistryOf = [](const std::string& Name)
-	{ return "C:/pellow/Moravane/Plugins/DLC/" + Name + "/Content/AssetRegistry.bin"; };
+	const auto RegistryOf = [](const std::string& Name) {
+		return "C:/pellow/Moravane/Plugins/DLC/" + Name + "/Content/AssetRegistry.bin";
+	};
 	ASSERT_EQ(ToolCallCount(Merger), 2);
 	EXPECT_EQ(ToolCallArguments(Merger, 1), (std::vector<std::string>{RegistryOf("A"), RegistryOf("B"), RegistryOf("A"), Password}));
 	EXPECT_EQ(ToolCallArguments(Merger, 2), (std::vector<std::string>{RegistryOf("A"), RegistryOf("C"), RegistryOf("A"), Password}));
@@ -232,10 +233,10 @@ TEST_F(FDistributionTest, AFailingOrMissingPakToolIsReportedAndTheRunStillEnds)
 	std::vector<std::string> Log = LogTempLines();
 	ASSERT_GE(Log.size(), 3u);
 	EXPECT_EQ(std::vector<std::string>(Log.end() - 3, Log.end()), (std::vector<std::string>{
-		"LogTemp: Error: Failed to create pak file: " + PakPath,
-		"LogTemp: Error: UnrealPak StdOut: UnrealPak.exe stand-in: 3 arguments\n",
-		"LogTemp: Error: UnrealPak StdErr: UnrealPak.exe stand-in: exit code 3\n",
-	}));
+																	  "LogTemp: Error: Failed to create pak file: " + PakPath,
+																	  "LogTemp: Error: UnrealPak StdOut: UnrealPak.exe stand-in: 3 arguments\n",
+																	  "LogTemp: Error: UnrealPak StdErr: UnrealPak.exe stand-in: exit code 3\n",
+																  }));
 	EXPECT_EQ(MessageBoxTexts(), (std::vector<std::string>{"Your pak is saved here: " + PakPath}));
 	EXPECT_FALSE(Exists("C:/pellow"));
 	EXPECT_FALSE(Exists(CookedFolder("Alpha") + "/Alpha.uplugin"));
@@ -247,10 +248,10 @@ TEST_F(FDistributionTest, AFailingOrMissingPakToolIsReportedAndTheRunStillEnds)
 	Log = LogTempLines();
 	ASSERT_GE(Log.size(), 3u);
 	EXPECT_EQ(std::vector<std::string>(Log.end() - 3, Log.end()), (std::vector<std::string>{
-		"LogTemp: Error: Failed to create pak file: " + PakPath,
-		"LogTemp: Error: UnrealPak StdOut: ",
-		"LogTemp: Error: UnrealPak StdErr: ",
-	}));
+																	  "LogTemp: Error: Failed to create pak file: " + PakPath,
+																	  "LogTemp: Error: UnrealPak StdOut: ",
+																	  "LogTemp: Error: UnrealPak StdErr: ",
+																  }));
 	EXPECT_EQ(MessageBoxTexts(), (std::vector<std::string>{"Your pak is saved here: " + PakPath}));
 	EXPECT_FALSE(Exists("C:/pellow"));
 }

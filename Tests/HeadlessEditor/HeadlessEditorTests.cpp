@@ -72,9 +72,9 @@ protected:
 TEST_F(FHeadlessEditorTest, DistributesTheSampleThroughTheDialogAndPrintsTheSession)
 {
 	const FRun Run = this->Run({"--root", Sandbox().string(), "distribute", "--calverly5",
-		"--plugin", "CalverlyBranchLine", "--original", "--dlcs", "Moravane_Base, Calverly5_Signals",
-		"--plugin", "ThirdPartyLocos",
-		"--plugin", "ExpressTimetable", "--original"});
+								"--plugin", "CalverlyBranchLine", "--original", "--dlcs", "Moravane_Base, Calverly5_Signals",
+								"--plugin", "ThirdPartyLocos",
+								"--plugin", "ExpressTimetable", "--original"});
 
 	EXPECT_EQ(Run.ExitCode, 0) << Run.Err;
 	EXPECT_EQ(Run.Err, "");
@@ -101,10 +101,10 @@ TEST_F(FHeadlessEditorTest, DistributesTheSampleThroughTheDialogAndPrintsTheSess
 	ASSERT_GT(Out.size(), Expected.size());
 	EXPECT_EQ(std::vector<std::string>(Out.begin(), Out.begin() + Expected.size()), Expected);
 	EXPECT_EQ(std::vector<std::string>(Out.end() - 3, Out.end()), (std::vector<std::string>{
-		"LogTemp: Your pak is saved here: C:/Work/Moravane-WindowsNoEditor-CalverlyBranchLine.pak",
-		"LogTemp: Pak file created successfully: C:/Work/Moravane-WindowsNoEditor-CalverlyBranchLine.pak",
-		"Message: Your pak is saved here: C:/Work/Moravane-WindowsNoEditor-CalverlyBranchLine.pak",
-	}));
+																	  "LogTemp: Your pak is saved here: C:/Work/Moravane-WindowsNoEditor-CalverlyBranchLine.pak",
+																	  "LogTemp: Pak file created successfully: C:/Work/Moravane-WindowsNoEditor-CalverlyBranchLine.pak",
+																	  "Message: Your pak is saved here: C:/Work/Moravane-WindowsNoEditor-CalverlyBranchLine.pak",
+																  }));
 
 	const std::string Pak = ReadAll(Drive("Work/Moravane-WindowsNoEditor-CalverlyBranchLine.pak"));
 	EXPECT_NE(Pak.find("C:/pellow/Moravane/Plugins/DLC/ThirdPartyLocos/Content/Locos/Class47.uasset -> ..\\..\\..\\Moravane/Plugins/DLC/ThirdPartyLocos/Content/Locos/Class47.uasset"), std::string::npos) << Pak;

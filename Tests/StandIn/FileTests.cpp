@@ -55,17 +55,17 @@ TEST_F(FStandInFileTest, FindFilesRecursiveListsFoldersFirstInNameOrderAndFollow
 	IFileManager::Get().FindFilesRecursive(Found, TEXT("C:/Stage/Link"), TEXT("*.*"), true, false, false);
 
 	EXPECT_EQ(ToUtf8Strings(Found), (std::vector<std::string>{
-		"kept",
-		"C:/Stage/own.txt",
-		"C:/Stage/Link/top.txt",
-		"C:/Stage/Link/Content/A.uasset",
-		"C:/Stage/Link/Content/b.uasset",
-		"C:/Stage/Link/Content/Maps/m",
-		"C:/Stage/Link/top.txt",
-		"C:/Stage/Link/Content/A.uasset",
-		"C:/Stage/Link/Content/b.uasset",
-		"C:/Stage/Link/Content/Maps/m",
-	}));
+										"kept",
+										"C:/Stage/own.txt",
+										"C:/Stage/Link/top.txt",
+										"C:/Stage/Link/Content/A.uasset",
+										"C:/Stage/Link/Content/b.uasset",
+										"C:/Stage/Link/Content/Maps/m",
+										"C:/Stage/Link/top.txt",
+										"C:/Stage/Link/Content/A.uasset",
+										"C:/Stage/Link/Content/b.uasset",
+										"C:/Stage/Link/Content/Maps/m",
+									}));
 
 	IFileManager::Get().FindFilesRecursive(Found, TEXT("C:/Missing"), TEXT("*.*"), true, false, true);
 	EXPECT_EQ(Found.Num(), 0);

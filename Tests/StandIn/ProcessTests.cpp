@@ -34,9 +34,9 @@ TEST_F(FStandInProcessTest, AProgramThatCannotStartGivesFalseAndTheWindowsError)
 	EXPECT_EQ(ReturnCode, 3) << "the folder is missing too";
 	EXPECT_TRUE(StdOut.Equals(TEXT("untouched"), ESearchCase::CaseSensitive));
 	EXPECT_EQ(LogLines(), (std::vector<std::string>{
-		"LogWindows: Warning: CreateProc failed: The system cannot find the path specified. (0x00000003)",
-		"LogWindows: Warning: URL: C:/Work/Engine/Binaries/Win64/UnrealPak.exe -create=x",
-	}));
+							  "LogWindows: Warning: CreateProc failed: The system cannot find the path specified. (0x00000003)",
+							  "LogWindows: Warning: URL: C:/Work/Engine/Binaries/Win64/UnrealPak.exe -create=x",
+						  }));
 
 	std::filesystem::create_directories(Host("C:/Work/Engine/Binaries/Win64"));
 	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("C:/Work/Engine/Binaries/Win64/UnrealPak.exe"), TEXT(""), &ReturnCode, nullptr, nullptr));

@@ -12,14 +12,12 @@
 TEST_F(FSandboxTest, UnboundCheckBoxKeepsAndTogglesItsOwnState)
 {
 	std::vector<ECheckBoxState> Events;
-	const auto Record = [&Events](ECheckBoxState State)
-	{
+	const auto Record = [&Events](ECheckBoxState State) {
 		Events.push_back(State);
 	};
 	const TSharedRef<SWidget> Free = SNew(SCheckBox).OnCheckStateChanged_Lambda(Record);
 	const TSharedRef<SWidget> Undetermined = SNew(SCheckBox).IsChecked(ECheckBoxState::Undetermined).OnCheckStateChanged_Lambda(Record);
-	const auto AlwaysChecked = []()
-	{
+	const auto AlwaysChecked = []() {
 		return ECheckBoxState::Checked;
 	};
 	const TSharedRef<SWidget> Bound = SNew(SCheckBox).IsChecked_Lambda(AlwaysChecked).OnCheckStateChanged_Lambda(Record);
@@ -39,12 +37,10 @@ TEST_F(FSandboxTest, ComboBoxListsItsOptionsAsTheyAreWhenItOpens)
 {
 	TArray<TSharedPtr<FString>> Options = {MakeShareable(new FString(TEXT("One")))};
 	std::vector<std::pair<std::string, ESelectInfo::Type>> Selections;
-	const auto MakeRow = [](TSharedPtr<FString> Option) -> TSharedRef<SWidget>
-	{
+	const auto MakeRow = [](TSharedPtr<FString> Option) -> TSharedRef<SWidget> {
 		return SNew(SEditableText).Text(FText::FromString(*Option));
 	};
-	const auto RecordSelection = [&Selections](TSharedPtr<FString> Option, ESelectInfo::Type Info)
-	{
+	const auto RecordSelection = [&Selections](TSharedPtr<FString> Option, ESelectInfo::Type Info) {
 		Selections.emplace_back(StandIn::ToUtf8(*Option), Info);
 	};
 	const TSharedRef<SWidget> Combo = SNew(SComboBox<TSharedPtr<FString>>).OptionsSource(&Options).OnGenerateWidget_Lambda(MakeRow).OnSelectionChanged_Lambda(RecordSelection);
@@ -85,8 +81,7 @@ TEST_F(FSandboxTest, BoxSlotsStretchByDefaultAndClearTogether)
 TEST_F(FSandboxTest, TextWidgetsTakeTypingUnlessReadOnlyAndBoundTextIsReadAtEachPaint)
 {
 	int32 Paints = 0;
-	const auto CountPaints = [&Paints]()
-	{
+	const auto CountPaints = [&Paints]() {
 		return FText::FromString(FString::Printf(TEXT("Paint %d"), ++Paints));
 	};
 	const TSharedRef<SWidget> Bound = SNew(SEditableText).Text_Lambda(CountPaints);
@@ -98,8 +93,7 @@ TEST_F(FSandboxTest, TextWidgetsTakeTypingUnlessReadOnlyAndBoundTextIsReadAtEach
 	EXPECT_EQ(StandIn::ToUtf8(StandIn::ShownText(ReadOnly).ToString()), "Label");
 
 	std::vector<std::pair<std::string, ETextCommit::Type>> Commits;
-	const auto RecordCommit = [&Commits](const FText& Text, ETextCommit::Type Type)
-	{
+	const auto RecordCommit = [&Commits](const FText& Text, ETextCommit::Type Type) {
 		Commits.emplace_back(StandIn::ToUtf8(Text.ToString()), Type);
 	};
 	const TSharedRef<SWidget> TextBox = SNew(SEditableTextBox).OnTextCommitted_Lambda(RecordCommit);

@@ -11,7 +11,8 @@ class TArray
 {
 public:
 	TArray() = default;
-	TArray(std::initializer_list<ElementType> InitList) : Items(InitList) {}
+	TArray(std::initializer_list<ElementType> InitList)
+		: Items(InitList) {}
 
 	int32 Num() const { return (int32)Items.size(); }
 	bool IsValidIndex(int32 Index) const { return Index >= 0 && Index < Num(); }

@@ -8,9 +8,12 @@ class TStringView
 {
 public:
 	TStringView() = default;
-	TStringView(const CharType* InData) : DataPtr(InData), Size(InData ? (int32)std::char_traits<CharType>::length(InData) : 0) {}
-	TStringView(const CharType* InData, int32 InSize) : DataPtr(InData), Size(InSize) {}
-	TStringView(const FString& InString) : DataPtr(*InString), Size(InString.Len()) {}
+	TStringView(const CharType* InData)
+		: DataPtr(InData), Size(InData ? (int32)std::char_traits<CharType>::length(InData) : 0) {}
+	TStringView(const CharType* InData, int32 InSize)
+		: DataPtr(InData), Size(InSize) {}
+	TStringView(const FString& InString)
+		: DataPtr(*InString), Size(InString.Len()) {}
 
 	const CharType* GetData() const { return DataPtr; }
 	int32 Len() const { return Size; }

@@ -62,8 +62,10 @@ class FString
 {
 public:
 	FString() = default;
-	FString(const TCHAR* Str) : Data(Str ? Str : L"") {}
-	FString(int32 InCount, const TCHAR* InSrc) : Data(InSrc, (size_t)InCount) {}
+	FString(const TCHAR* Str)
+		: Data(Str ? Str : L"") {}
+	FString(int32 InCount, const TCHAR* InSrc)
+		: Data(InSrc, (size_t)InCount) {}
 	explicit FString(const ANSICHAR* Str);
 
 	const TCHAR* operator*() const { return Data.c_str(); }
@@ -180,7 +182,8 @@ public:
 	}
 
 private:
-	explicit FString(std::wstring&& InData) : Data(std::move(InData)) {}
+	explicit FString(std::wstring&& InData)
+		: Data(std::move(InData)) {}
 	static FString PrintfImpl(const TCHAR* Fmt, ...);
 
 	std::wstring Data;

@@ -41,25 +41,28 @@ public:
 	static TDelegate CreateLambda(FunctorType&& Functor, VarTypes... Vars)
 	{
 		TDelegate Result;
-		Result.Callable = [Functor = std::forward<FunctorType>(Functor), Vars...](ParamTypes... Params) mutable -> RetValType
-		{ return Functor(std::forward<ParamTypes>(Params)..., Vars...); };
+		Result.Callable = [Functor = std::forward<FunctorType>(Functor), Vars...](ParamTypes... Params) mutable -> RetValType {
+			return Functor(std::forward<ParamTypes>(Params)..., Vars...);
+		};
 		return Result;
 	}
 
 	template <typename FunctionType, typename... VarTypes>
 	static TDelegate CreateStatic(FunctionType* Function, VarTypes... Vars)
 	{
-		return CreateLambda([Function](ParamTypes... Params, VarTypes... Payload) -> RetValType
-			{ return Function(std::forward<ParamTypes>(Params)..., Payload...); },
-			Vars...);
+		return CreateLambda([Function](ParamTypes... Params, VarTypes... Payload) -> RetValType {
+			return Function(std::forward<ParamTypes>(Params)..., Payload...);
+		},
+							Vars...);
 	}
 
 	template <typename UserClass, typename MethodType, typename... VarTypes>
 	static TDelegate CreateRaw(UserClass* InUserObject, MethodType InFunc, VarTypes... Vars)
 	{
-		return CreateLambda([InUserObject, InFunc](ParamTypes... Params, VarTypes... Payload) -> RetValType
-			{ return (InUserObject->*InFunc)(std::forward<ParamTypes>(Params)..., Payload...); },
-			Vars...);
+		return CreateLambda([InUserObject, InFunc](ParamTypes... Params, VarTypes... Payload) -> RetValType {
+			return (InUserObject->*InFunc)(std::forward<ParamTypes>(Params)..., Payload...);
+		},
+							Vars...);
 	}
 
 	template <typename UserClass, ESPMode::Type Mode, typename MethodType, typename... VarTypes>
@@ -117,15 +120,15 @@ private:
 	template <typename UserClass, typename MethodType, typename... VarTypes>
 	static TDelegate CreateWeak(std::weak_ptr<UserClass> Weak, MethodType InFunc, VarTypes... Vars)
 	{
-		TDelegate Result = CreateLambda([Weak, InFunc](ParamTypes... Params, VarTypes... Payload) -> RetValType
-			{
-				std::shared_ptr<UserClass> Pinned = Weak.lock();
-				check(Pinned != nullptr);
-				return (Pinned.get()->*InFunc)(std::forward<ParamTypes>(Params)..., Payload...);
-			},
-			Vars...);
-		Result.IsAlive = [Weak]()
-		{ return !Weak.expired(); };
+		TDelegate Result = CreateLambda([Weak, InFunc](ParamTypes... Params, VarTypes... Payload) -> RetValType {
+			std::shared_ptr<UserClass> Pinned = Weak.lock();
+			check(Pinned != nullptr);
+			return (Pinned.get()->*InFunc)(std::forward<ParamTypes>(Params)..., Payload...);
+		},
+										Vars...);
+		Result.IsAlive = [Weak]() {
+			return !Weak.expired();
+		};
 		return Result;
 	}
 

@@ -87,7 +87,8 @@ public:
 	class FDirectoryVisitor
 	{
 	public:
-		FDirectoryVisitor(EDirectoryVisitorFlags InDirectoryVisitorFlags = EDirectoryVisitorFlags::None) : DirectoryVisitorFlags(InDirectoryVisitorFlags) {}
+		FDirectoryVisitor(EDirectoryVisitorFlags InDirectoryVisitorFlags = EDirectoryVisitorFlags::None)
+			: DirectoryVisitorFlags(InDirectoryVisitorFlags) {}
 		virtual ~FDirectoryVisitor() {}
 		// Returns true to go on.
 		virtual bool Visit(const TCHAR* FilenameOrDirectory, bool bIsDirectory) = 0;

@@ -33,7 +33,8 @@ private:
 		FString Namespace;
 		FString Key;
 	};
-	explicit FText(TSharedRef<const FTextData> InData) : Data(InData) {}
+	explicit FText(TSharedRef<const FTextData> InData)
+		: Data(InData) {}
 	static FText FormatOrdered(const FText& Fmt, const TArray<FText>& Args);
 
 	TSharedRef<const FTextData> Data;

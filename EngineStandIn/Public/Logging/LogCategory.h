@@ -24,5 +24,6 @@ template <ELogVerbosity::Type InDefaultVerbosity, ELogVerbosity::Type InCompileT
 struct FLogCategory : public FLogCategoryBase
 {
 	static constexpr ELogVerbosity::Type CompileTimeVerbosity = InCompileTimeVerbosity;
-	explicit FLogCategory(const TCHAR* CategoryName) : FLogCategoryBase(CategoryName, InDefaultVerbosity, InCompileTimeVerbosity) {}
+	explicit FLogCategory(const TCHAR* CategoryName)
+		: FLogCategoryBase(CategoryName, InDefaultVerbosity, InCompileTimeVerbosity) {}
 };

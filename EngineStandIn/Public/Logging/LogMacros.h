@@ -12,26 +12,26 @@ namespace StandInLogging
 
 #define UE_LOG_ACTIVE(CategoryName, Verbosity) (!CategoryName.IsSuppressed(ELogVerbosity::Verbosity))
 
-#define UE_LOG(CategoryName, Verbosity, Format, ...)                                                                      \
-	do                                                                                                                     \
-	{                                                                                                                      \
+#define UE_LOG(CategoryName, Verbosity, Format, ...)                                                                    \
+	do                                                                                                                  \
+	{                                                                                                                   \
 		static_assert(TIsArrayOrRefOfType<decltype(Format), TCHAR>::Value, "Formatting string must be a TCHAR array."); \
-		if (UE_LOG_ACTIVE(CategoryName, Verbosity))                                                                        \
-		{                                                                                                                  \
-			StandInLogging::Emit(CategoryName, ELogVerbosity::Verbosity, FString::Printf(Format, ##__VA_ARGS__));         \
-		}                                                                                                                  \
+		if (UE_LOG_ACTIVE(CategoryName, Verbosity))                                                                     \
+		{                                                                                                               \
+			StandInLogging::Emit(CategoryName, ELogVerbosity::Verbosity, FString::Printf(Format, ##__VA_ARGS__));       \
+		}                                                                                                               \
 	} while (false)
 
-#define DECLARE_LOG_CATEGORY_EXTERN(CategoryName, DefaultVerbosity, CompileTimeVerbosity) \
+#define DECLARE_LOG_CATEGORY_EXTERN(CategoryName, DefaultVerbosity, CompileTimeVerbosity)                                                \
 	extern struct FLogCategory##CategoryName : public FLogCategory<ELogVerbosity::DefaultVerbosity, ELogVerbosity::CompileTimeVerbosity> \
-	{                                                                                     \
-		FLogCategory##CategoryName() : FLogCategory(TEXT(#CategoryName)) {}               \
+	{                                                                                                                                    \
+		FLogCategory##CategoryName() : FLogCategory(TEXT(#CategoryName)) {}                                                              \
 	} CategoryName;
 
 #define DEFINE_LOG_CATEGORY(CategoryName) FLogCategory##CategoryName CategoryName;
 
-#define DEFINE_LOG_CATEGORY_STATIC(CategoryName, DefaultVerbosity, CompileTimeVerbosity) \
+#define DEFINE_LOG_CATEGORY_STATIC(CategoryName, DefaultVerbosity, CompileTimeVerbosity)                                                 \
 	static struct FLogCategory##CategoryName : public FLogCategory<ELogVerbosity::DefaultVerbosity, ELogVerbosity::CompileTimeVerbosity> \
-	{                                                                                    \
-		FLogCategory##CategoryName() : FLogCategory(TEXT(#CategoryName)) {}              \
+	{                                                                                                                                    \
+		FLogCategory##CategoryName() : FLogCategory(TEXT(#CategoryName)) {}                                                              \
 	} CategoryName;

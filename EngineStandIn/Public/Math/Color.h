@@ -10,7 +10,8 @@ struct FLinearColor
 	float A = 0.0f;
 
 	FLinearColor() = default;
-	constexpr FLinearColor(float InR, float InG, float InB, float InA = 1.0f) : R(InR), G(InG), B(InB), A(InA) {}
+	constexpr FLinearColor(float InR, float InG, float InB, float InA = 1.0f)
+		: R(InR), G(InG), B(InB), A(InA) {}
 	bool operator==(const FLinearColor& Other) const { return R == Other.R && G == Other.G && B == Other.B && A == Other.A; }
 	bool operator!=(const FLinearColor& Other) const { return !(*this == Other); }
 

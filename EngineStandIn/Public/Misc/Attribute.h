@@ -13,8 +13,10 @@ public:
 
 	TAttribute() = default;
 	template <typename OtherType>
-	TAttribute(const OtherType& InInitialValue) : Value(InInitialValue), bIsSet(true) {}
-	TAttribute(const FGetter& InGetter) : Getter(InGetter), bIsSet(true) {}
+	TAttribute(const OtherType& InInitialValue)
+		: Value(InInitialValue), bIsSet(true) {}
+	TAttribute(const FGetter& InGetter)
+		: Getter(InGetter), bIsSet(true) {}
 
 	static TAttribute Create(const FGetter& InGetter) { return TAttribute(InGetter); }
 	template <typename FunctorType>

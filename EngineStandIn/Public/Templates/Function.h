@@ -14,7 +14,8 @@ class TFunctionRef<Ret(ParamTypes...)>
 {
 public:
 	template <typename FunctorType>
-	TFunctionRef(FunctorType&& Functor) : Callable(std::forward<FunctorType>(Functor)) {}
+	TFunctionRef(FunctorType&& Functor)
+		: Callable(std::forward<FunctorType>(Functor)) {}
 	Ret operator()(ParamTypes... Params) const { return Callable(std::forward<ParamTypes>(Params)...); }
 
 private:
@@ -28,7 +29,8 @@ public:
 	TFunction() = default;
 	TFunction(std::nullptr_t) {}
 	template <typename FunctorType>
-	TFunction(FunctorType&& Functor) : Callable(std::forward<FunctorType>(Functor)) {}
+	TFunction(FunctorType&& Functor)
+		: Callable(std::forward<FunctorType>(Functor)) {}
 	Ret operator()(ParamTypes... Params) const { return Callable(std::forward<ParamTypes>(Params)...); }
 	explicit operator bool() const { return (bool)Callable; }
 

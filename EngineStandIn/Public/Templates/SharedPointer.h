@@ -38,14 +38,19 @@ public:
 	TSharedPtr() = default;
 	TSharedPtr(std::nullptr_t) {}
 	template <class OtherType>
-	explicit TSharedPtr(OtherType* InObject) : Impl(InObject) {}
+	explicit TSharedPtr(OtherType* InObject)
+		: Impl(InObject) {}
 	template <class OtherType>
-	TSharedPtr(const TSharedPtr<OtherType, Mode>& Other) : Impl(Other.Impl) {}
+	TSharedPtr(const TSharedPtr<OtherType, Mode>& Other)
+		: Impl(Other.Impl) {}
 	template <class OtherType>
-	TSharedPtr(const TSharedRef<OtherType, Mode>& Other) : Impl(Other.Impl) {}
-	explicit TSharedPtr(std::shared_ptr<ObjectType> InImpl) : Impl(std::move(InImpl)) {}
+	TSharedPtr(const TSharedRef<OtherType, Mode>& Other)
+		: Impl(Other.Impl) {}
+	explicit TSharedPtr(std::shared_ptr<ObjectType> InImpl)
+		: Impl(std::move(InImpl)) {}
 	template <class OtherType>
-	TSharedPtr(const TRawPtrProxy<OtherType>& Proxy) : Impl(Proxy.Object) {}
+	TSharedPtr(const TRawPtrProxy<OtherType>& Proxy)
+		: Impl(Proxy.Object) {}
 
 	ObjectType* Get() const { return Impl.get(); }
 	bool IsValid() const { return Impl != nullptr; }
@@ -80,12 +85,16 @@ class TSharedRef
 {
 public:
 	template <class OtherType>
-	explicit TSharedRef(OtherType* InObject) : Impl(InObject) { check(InObject != nullptr); }
+	explicit TSharedRef(OtherType* InObject)
+		: Impl(InObject) { check(InObject != nullptr); }
 	template <class OtherType>
-	TSharedRef(const TSharedRef<OtherType, Mode>& Other) : Impl(Other.Impl) {}
-	explicit TSharedRef(std::shared_ptr<ObjectType> InImpl) : Impl(std::move(InImpl)) { check(Impl != nullptr); }
+	TSharedRef(const TSharedRef<OtherType, Mode>& Other)
+		: Impl(Other.Impl) {}
+	explicit TSharedRef(std::shared_ptr<ObjectType> InImpl)
+		: Impl(std::move(InImpl)) { check(Impl != nullptr); }
 	template <class OtherType>
-	TSharedRef(const TRawPtrProxy<OtherType>& Proxy) : Impl(Proxy.Object) { check(Proxy.Object != nullptr); }
+	TSharedRef(const TRawPtrProxy<OtherType>& Proxy)
+		: Impl(Proxy.Object) { check(Proxy.Object != nullptr); }
 
 	ObjectType& Get() const { return *Impl; }
 	ObjectType& operator*() const { return *Impl; }
@@ -115,9 +124,11 @@ class TWeakPtr
 public:
 	TWeakPtr() = default;
 	template <class OtherType>
-	TWeakPtr(const TSharedPtr<OtherType, Mode>& Other) : Impl(Other.Impl) {}
+	TWeakPtr(const TSharedPtr<OtherType, Mode>& Other)
+		: Impl(Other.Impl) {}
 	template <class OtherType>
-	TWeakPtr(const TSharedRef<OtherType, Mode>& Other) : Impl(Other.Impl) {}
+	TWeakPtr(const TSharedRef<OtherType, Mode>& Other)
+		: Impl(Other.Impl) {}
 
 	TSharedPtr<ObjectType, Mode> Pin() const { return TSharedPtr<ObjectType, Mode>(Impl.lock()); }
 	bool IsValid() const { return !Impl.expired(); }

@@ -8,9 +8,12 @@ class FName
 {
 public:
 	FName() = default;
-	FName(const TCHAR* Name) : Text(Name) {}
-	FName(const ANSICHAR* Name) : Text(Name) {}
-	explicit FName(const FString& Name) : Text(Name) {}
+	FName(const TCHAR* Name)
+		: Text(Name) {}
+	FName(const ANSICHAR* Name)
+		: Text(Name) {}
+	explicit FName(const FString& Name)
+		: Text(Name) {}
 
 	FString ToString() const { return Text; }
 	bool IsNone() const { return Text.IsEmpty(); }

@@ -16,7 +16,8 @@
 
 #define LOCTEXT_NAMESPACE "SPakingDialog"
 
-namespace
+// Named rather than anonymous, so that unity builds cannot mix these up with another unit's helpers.
+namespace SPakingDialogWidgets
 {
 	FSlateFontInfo GetLabelFont()
 	{
@@ -32,7 +33,7 @@ namespace
 	{
 		return SNew(SEditableText)
 			.Text(FText::FromString(Caption))
-			.Font(GetLabelFont())
+			.Font(SPakingDialogWidgets::GetLabelFont())
 			.ColorAndOpacity(FLinearColor::White)
 			.IsReadOnly(true);
 	}
@@ -47,7 +48,7 @@ namespace
 			DLC.TrimStartAndEndInline();
 		}
 	}
-} // namespace
+}
 
 void SPakingDialog::Construct(const FArguments& InArgs)
 {
@@ -90,7 +91,7 @@ void SPakingDialog::Construct(const FArguments& InArgs)
 					[
 						SNew(SEditableText)
 						.Text(FText::FromString(TEXT("Calverly5 Plugin")))
-						.Font(GetLabelFont())
+						.Font(SPakingDialogWidgets::GetLabelFont())
 					]
 					+ SVerticalBox::Slot()
 					[
@@ -149,11 +150,11 @@ FReply SPakingDialog::OnAddPluginClicked()
 			.OnSelectionChanged(this, &SPakingDialog::OnEntrySelectionChanged, EntryIndex)
 			[
 				SNew(SButton)
-				.ButtonStyle(GetComboButtonStyle())
+				.ButtonStyle(SPakingDialogWidgets::GetComboButtonStyle())
 				[
 					SNew(SEditableText)
 					.Text(this, &SPakingDialog::GetEntryContentText, EntryIndex)
-					.Font(GetLabelFont())
+					.Font(SPakingDialogWidgets::GetLabelFont())
 					.ColorAndOpacity(FLinearColor::White)
 					.IsReadOnly(true)
 				]
@@ -164,7 +165,7 @@ FReply SPakingDialog::OnAddPluginClicked()
 			SNew(SVerticalBox)
 			+ SVerticalBox::Slot()
 			[
-				MakeEntryLabel(TEXT("Original Plugin"))
+				SPakingDialogWidgets::MakeEntryLabel(TEXT("Original Plugin"))
 			]
 			+ SVerticalBox::Slot()
 			[
@@ -180,7 +181,7 @@ FReply SPakingDialog::OnAddPluginClicked()
 		SNew(SVerticalBox)
 		+ SVerticalBox::Slot()
 		[
-			MakeEntryLabel(TEXT("Enter required DLCs (separated by comma):"))
+			SPakingDialogWidgets::MakeEntryLabel(TEXT("Enter required DLCs (separated by comma):"))
 		]
 		+ SVerticalBox::Slot()
 		[
@@ -262,9 +263,9 @@ TSharedRef<SWidget> SPakingDialog::OnGenerateEntryOption(TSharedPtr<FString> Opt
 
 	// clang-format off
 	return SNew(SButton)
-		.ButtonStyle(GetComboButtonStyle())
+		.ButtonStyle(SPakingDialogWidgets::GetComboButtonStyle())
 		[
-			MakeEntryLabel(Option.IsValid() ? *Option : FString(TEXT("Invalid Plugin")))
+			SPakingDialogWidgets::MakeEntryLabel(Option.IsValid() ? *Option : FString(TEXT("Invalid Plugin")))
 		];
 	// clang-format on
 }
@@ -305,7 +306,7 @@ void SPakingDialog::OnEntryOriginalChanged(ECheckBoxState NewState, int32 EntryI
 void SPakingDialog::OnEntryRequiredDLCsCommitted(const FText& Text, ETextCommit::Type CommitType, int32 EntryIndex)
 {
 	FPakingDialogEntry& Entry = PluginEntries[EntryIndex];
-	ParseRequiredDLCs(Text, Entry.RequiredDLCs);
+	SPakingDialogWidgets::ParseRequiredDLCs(Text, Entry.RequiredDLCs);
 	for (const FString& DLC : Entry.RequiredDLCs)
 	{
 		UE_LOG(LogTemp, Log, TEXT("%s"), *DLC);
@@ -333,7 +334,7 @@ FText SPakingDialog::GetSelectedPluginText() const
 
 void SPakingDialog::OnRequiredDLCsEntered(const FText& Text)
 {
-	ParseRequiredDLCs(Text, RequiredDLCs);
+	SPakingDialogWidgets::ParseRequiredDLCs(Text, RequiredDLCs);
 	UE_LOG(LogTemp, Log, TEXT("DLCs entered:"));
 	for (const FString& DLC : RequiredDLCs)
 	{

@@ -34,6 +34,7 @@ namespace UGCPakingPaths
 	const TCHAR* const ResponseFileName = TEXT("cooking.txt");
 }
 
+// clang-format off
 namespace UGCDescriptorTexts
 {
 	// ["A", "B"]: each name quoted as typed, nothing escaped.
@@ -135,8 +136,10 @@ namespace UGCDescriptorTexts
 			*PluginName, *PluginName, *PluginName, *PluginName, *PluginName);
 	}
 }
+// clang-format on
 
-namespace
+// Named rather than anonymous, so that unity builds cannot mix these up with another unit's helpers.
+namespace UGCPakingFiles
 {
 	void EnsureDirectoryExists(const FString& Directory)
 	{
@@ -191,29 +194,28 @@ TArray<FString> FUGCPaking::FindCookedPlugins()
 		return CookedPlugins;
 	}
 
-	FPlatformFileManager::Get().GetPlatformFile().IterateDirectory(*PluginsDir, [&PluginsDir, &CookedPlugins](const TCHAR* FilenameOrDirectory, bool bIsDirectory)
+	FPlatformFileManager::Get().GetPlatformFile().IterateDirectory(*PluginsDir, [&PluginsDir, &CookedPlugins](const TCHAR* FilenameOrDirectory, bool bIsDirectory) {
+		if (!bIsDirectory)
 		{
-			if (!bIsDirectory)
-			{
-				return true;
-			}
-			// The folder name stands for the plugin name; the .uplugin inside is not read.
-			const FString PluginName = FPaths::GetCleanFilename(FilenameOrDirectory);
-			UE_LOG(LogTemp, Log, TEXT("Found plugin folder: %s"), *PluginName);
-			const FString DevelopmentRegistry = FPaths::Combine(PluginsDir, PluginName, UGCPakingPaths::CookedPluginsBelowPlugin, PluginName, TEXT("Content/Metadata/DevelopmentAssetRegistry.bin"));
-			if (FPaths::FileExists(DevelopmentRegistry))
-			{
-				CookedPlugins.Add(PluginName);
-			}
 			return true;
-		});
+		}
+		// The folder name stands for the plugin name; the .uplugin inside is not read.
+		const FString PluginName = FPaths::GetCleanFilename(FilenameOrDirectory);
+		UE_LOG(LogTemp, Log, TEXT("Found plugin folder: %s"), *PluginName);
+		const FString DevelopmentRegistry = FPaths::Combine(PluginsDir, PluginName, UGCPakingPaths::CookedPluginsBelowPlugin, PluginName, TEXT("Content/Metadata/DevelopmentAssetRegistry.bin"));
+		if (FPaths::FileExists(DevelopmentRegistry))
+		{
+			CookedPlugins.Add(PluginName);
+		}
+		return true;
+	});
 
 	return CookedPlugins;
 }
 
 void FUGCPaking::Distribute()
 {
-	const FString LaunchDir = GetAbsoluteLaunchDir();
+	const FString LaunchDir = UGCPakingFiles::GetAbsoluteLaunchDir();
 	const FString StagingRoot = FPaths::Combine(UGCPakingPaths::StagingRoot);
 	IPlatformFile& PlatformFile = FPlatformFileManager::Get().GetPlatformFile();
 
@@ -244,7 +246,7 @@ void FUGCPaking::Distribute()
 			FirstPluginName = PluginName;
 			bFirstEntry = false;
 		}
-		EnsureDirectoryExists(UGCPakingPaths::StagedDLCDir);
+		UGCPakingFiles::EnsureDirectoryExists(UGCPakingPaths::StagedDLCDir);
 
 		// cmd.exe is named again at the head of the parameters; the interpreter passes over it.
 		const FString LinkCommand = FString::Printf(TEXT("cmd.exe /C mklink /d \"%s\" \"%s\""), *LinkPath, *CookedFolder);
@@ -254,8 +256,8 @@ void FUGCPaking::Distribute()
 		{
 			// A plugin that is not the user's own is packed with a stand-in registry and no descriptors.
 			PlaceholderRegistryPath = FPaths::Combine(LinkPath, UGCPakingPaths::AssetRegistryName);
-			EnsureDirectoryExists(LinkContentDir);
-			SaveText(FString::Printf(TEXT(".")), PlaceholderRegistryPath);
+			UGCPakingFiles::EnsureDirectoryExists(LinkContentDir);
+			UGCPakingFiles::SaveText(FString::Printf(TEXT(".")), PlaceholderRegistryPath);
 			UE_LOG(LogTemp, Log, TEXT("File AssetRegistry for not your original plugin is generated"));
 			continue;
 		}
@@ -285,10 +287,10 @@ void FUGCPaking::Distribute()
 		UE_LOG(LogTemp, Log, TEXT("File %s.upluginmanifest is generated"), *PluginName);
 
 		// Through the link the descriptors land in the cooked folder; the manifest stays in the staging tree.
-		EnsureDirectoryExists(LinkContentDir);
-		SaveText(ContentDescriptorText, ContentDescriptorPath);
-		SaveText(UPluginText, UPluginPath);
-		SaveText(ManifestText, ManifestPath);
+		UGCPakingFiles::EnsureDirectoryExists(LinkContentDir);
+		UGCPakingFiles::SaveText(ContentDescriptorText, ContentDescriptorPath);
+		UGCPakingFiles::SaveText(UPluginText, UPluginPath);
+		UGCPakingFiles::SaveText(ManifestText, ManifestPath);
 	}
 
 	// Every further original registry is merged into the first one, in place.
@@ -324,20 +326,20 @@ void FUGCPaking::WritePakResponseFile(const FString& StagingRoot, const FString&
 	if (AssetRegistries.Num() >= 2)
 	{
 		// Only the first registry, which holds the merge, is packed.
-		FilesToPak.RemoveAll([&AssetRegistries](const FString& File)
+		FilesToPak.RemoveAll([&AssetRegistries](const FString& File) {
+			for (int32 Index = 1; Index < AssetRegistries.Num(); ++Index)
 			{
-				for (int32 Index = 1; Index < AssetRegistries.Num(); ++Index)
+				if (File.Contains(AssetRegistries[Index]))
 				{
-					if (File.Contains(AssetRegistries[Index]))
-					{
-						return true;
-					}
+					return true;
 				}
-				return false;
-			});
+			}
+			return false;
+		});
 	}
-	FilesToPak.RemoveAll([](const FString& File)
-		{ return File.Contains(TEXT("/Metadata/")); });
+	FilesToPak.RemoveAll([](const FString& File) {
+		return File.Contains(TEXT("/Metadata/"));
+	});
 
 	FString ResponseText;
 	for (const FString& File : FilesToPak)
@@ -346,7 +348,7 @@ void FUGCPaking::WritePakResponseFile(const FString& StagingRoot, const FString&
 		ResponseText += FString::Printf(TEXT("\"%s\" \"..\\..\\..\\%s\"\n"), *File, *RelativePath);
 		UE_LOG(LogTemp, Log, TEXT("Adding file for paking: %s"), *File);
 	}
-	SaveText(ResponseText, ResponseFilePath);
+	UGCPakingFiles::SaveText(ResponseText, ResponseFilePath);
 }
 
 void FUGCPaking::RunUnrealPak(const FString& StagingRoot, const FString& ResponseFilePath, const FString& FirstPluginName, const FString& PakPath, const FString& LaunchDir)
@@ -376,8 +378,7 @@ void FUGCPaking::CleanUpDistribution(const TArray<FPakingPluginEntry>& Distribut
 {
 	// Only the last writer's files go; earlier entries keep theirs in their cooked folders.
 	IFileManager& FileManager = IFileManager::Get();
-	const auto DeleteIfExists = [&FileManager](const FString& Path)
-	{
+	const auto DeleteIfExists = [&FileManager](const FString& Path) {
 		if (FileManager.FileExists(*Path))
 		{
 			FileManager.Delete(*Path, false, false, false);
