@@ -313,7 +313,7 @@ namespace StandInFormat
 				Out += *Cursor++;
 				continue;
 			}
-			const TCHAR* SpecStart = Cursor++;
+			const TCHAR* DirectiveStart = Cursor++;
 			if (*Cursor == L'%')
 			{
 				Out += L'%';
@@ -380,19 +380,19 @@ namespace StandInFormat
 			const TCHAR Conversion = *Cursor;
 			if (Conversion == 0)
 			{
-				Out.append(SpecStart);
+				Out.append(DirectiveStart);
 				break;
 			}
 			++Cursor;
 
-			std::wstring Spec = L"%" + Flags;
+			std::wstring CFormat = L"%" + Flags;
 			if (Width >= 0)
 			{
-				Spec += std::to_wstring(Width);
+				CFormat += std::to_wstring(Width);
 			}
 			if (Precision >= 0)
 			{
-				Spec += L"." + std::to_wstring(Precision);
+				CFormat += L"." + std::to_wstring(Precision);
 			}
 			TCHAR Buffer[512];
 			switch (Conversion)
@@ -419,14 +419,14 @@ namespace StandInFormat
 				break;
 			case L'd':
 			case L'i':
-				Spec += bLong64 ? L"lld" : L"d";
+				CFormat += bLong64 ? L"lld" : L"d";
 				if (bLong64)
 				{
-					std::swprintf(Buffer, 512, Spec.c_str(), va_arg(Args, long long));
+					std::swprintf(Buffer, 512, CFormat.c_str(), va_arg(Args, long long));
 				}
 				else
 				{
-					std::swprintf(Buffer, 512, Spec.c_str(), va_arg(Args, int));
+					std::swprintf(Buffer, 512, CFormat.c_str(), va_arg(Args, int));
 				}
 				Out += Buffer;
 				break;
@@ -434,15 +434,15 @@ namespace StandInFormat
 			case L'x':
 			case L'X':
 			case L'o':
-				Spec += bLong64 ? L"ll" : L"";
-				Spec += Conversion;
+				CFormat += bLong64 ? L"ll" : L"";
+				CFormat += Conversion;
 				if (bLong64)
 				{
-					std::swprintf(Buffer, 512, Spec.c_str(), va_arg(Args, unsigned long long));
+					std::swprintf(Buffer, 512, CFormat.c_str(), va_arg(Args, unsigned long long));
 				}
 				else
 				{
-					std::swprintf(Buffer, 512, Spec.c_str(), va_arg(Args, unsigned int));
+					std::swprintf(Buffer, 512, CFormat.c_str(), va_arg(Args, unsigned int));
 				}
 				Out += Buffer;
 				break;
@@ -452,8 +452,8 @@ namespace StandInFormat
 			case L'E':
 			case L'g':
 			case L'G':
-				Spec += Conversion;
-				std::swprintf(Buffer, 512, Spec.c_str(), va_arg(Args, double));
+				CFormat += Conversion;
+				std::swprintf(Buffer, 512, CFormat.c_str(), va_arg(Args, double));
 				Out += Buffer;
 				break;
 			case L'p':
@@ -461,7 +461,7 @@ namespace StandInFormat
 				Out += Buffer;
 				break;
 			default:
-				Out.append(SpecStart, (size_t)(Cursor - SpecStart));
+				Out.append(DirectiveStart, (size_t)(Cursor - DirectiveStart));
 				break;
 			}
 		}
