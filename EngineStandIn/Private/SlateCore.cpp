@@ -62,22 +62,6 @@ void SBoxPanel::ClearChildren()
 	Children.Empty();
 }
 
-void SHorizontalBox::Construct(const FArguments& InArgs)
-{
-	for (FSlot* Slot : InArgs.Slots)
-	{
-		Children.Add(Slot);
-	}
-}
-
-void SVerticalBox::Construct(const FArguments& InArgs)
-{
-	for (FSlot* Slot : InArgs.Slots)
-	{
-		Children.Add(Slot);
-	}
-}
-
 void SWindow::Construct(const FArguments& InArgs)
 {
 	Title = InArgs._Title;

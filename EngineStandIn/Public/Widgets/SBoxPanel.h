@@ -58,33 +58,60 @@ protected:
 	SBoxPanel()
 		: Children(this) {}
 
+	template <typename SlotType>
+	SlotType& AddNewSlot()
+	{
+		SlotType& NewSlot = *(new SlotType());
+		Children.Add(&NewSlot);
+		return NewSlot;
+	}
+
+	template <typename SlotType>
+	void AddArgumentSlots(const TArray<SlotType*>& Slots)
+	{
+		for (SlotType* Slot : Slots)
+		{
+			Children.Add(Slot);
+		}
+	}
+
 	TPanelChildren<FSlot> Children;
+};
+
+// The setters both boxes' slots share, returning the box's own slot type so that calls can be chained.
+template <typename SlotType>
+class TBoxSlot : public SBoxPanel::FSlot
+{
+public:
+	SlotType& Padding(float Uniform)
+	{
+		SlotPadding = FMargin(Uniform);
+		return Self();
+	}
+	SlotType& Padding(const TAttribute<FMargin>& InPadding)
+	{
+		SlotPadding = InPadding;
+		return Self();
+	}
+	SlotType& operator[](const TSharedRef<SWidget>& InWidget)
+	{
+		SBoxPanel::FSlot::operator[](InWidget);
+		return Self();
+	}
+
+private:
+	SlotType& Self() { return static_cast<SlotType&>(*this); }
 };
 
 class SLATECORE_API SHorizontalBox : public SBoxPanel
 {
 public:
-	class FSlot : public SBoxPanel::FSlot
+	class FSlot : public TBoxSlot<FSlot>
 	{
 	public:
 		FSlot& FillWidth(const TAttribute<float>& StretchCoefficient)
 		{
 			SizeParam = FStretch(StretchCoefficient);
-			return *this;
-		}
-		FSlot& Padding(float Uniform)
-		{
-			SlotPadding = FMargin(Uniform);
-			return *this;
-		}
-		FSlot& Padding(const TAttribute<FMargin>& InPadding)
-		{
-			SlotPadding = InPadding;
-			return *this;
-		}
-		FSlot& operator[](const TSharedRef<SWidget>& InWidget)
-		{
-			SBoxPanel::FSlot::operator[](InWidget);
 			return *this;
 		}
 	};
@@ -97,37 +124,16 @@ public:
 	SLATE_END_ARGS()
 	// clang-format on
 
-	FSlot& AddSlot()
-	{
-		FSlot& NewSlot = *(new FSlot());
-		Children.Add(&NewSlot);
-		return NewSlot;
-	}
+	FSlot& AddSlot() { return AddNewSlot<FSlot>(); }
 
-	void Construct(const FArguments& InArgs);
+	void Construct(const FArguments& InArgs) { AddArgumentSlots(InArgs.Slots); }
 };
 
 class SLATECORE_API SVerticalBox : public SBoxPanel
 {
 public:
-	class FSlot : public SBoxPanel::FSlot
+	class FSlot : public TBoxSlot<FSlot>
 	{
-	public:
-		FSlot& Padding(float Uniform)
-		{
-			SlotPadding = FMargin(Uniform);
-			return *this;
-		}
-		FSlot& Padding(const TAttribute<FMargin>& InPadding)
-		{
-			SlotPadding = InPadding;
-			return *this;
-		}
-		FSlot& operator[](const TSharedRef<SWidget>& InWidget)
-		{
-			SBoxPanel::FSlot::operator[](InWidget);
-			return *this;
-		}
 	};
 
 	static FSlot& Slot() { return *(new FSlot()); }
@@ -138,12 +144,7 @@ public:
 	SLATE_END_ARGS()
 	// clang-format on
 
-	FSlot& AddSlot()
-	{
-		FSlot& NewSlot = *(new FSlot());
-		Children.Add(&NewSlot);
-		return NewSlot;
-	}
+	FSlot& AddSlot() { return AddNewSlot<FSlot>(); }
 
-	void Construct(const FArguments& InArgs);
+	void Construct(const FArguments& InArgs) { AddArgumentSlots(InArgs.Slots); }
 };
