@@ -35,38 +35,49 @@ namespace
 		return Arguments[++Index];
 	}
 
-	void ParseDistributeOptions(const std::vector<std::string>& Arguments, size_t Index, FEditorCommandLine& Result)
+	// The editor's own options may stand before or after the command.
+	bool TakeEditorOption(const std::vector<std::string>& Arguments, size_t& Index, FEditorCommandLine& Result)
 	{
-		for (; Index < Arguments.size(); ++Index)
+		const std::string& Argument = Arguments[Index];
+		std::string* Target = Argument == "--root" ? &Result.Root : Argument == "--launch-dir" ? &Result.LaunchDir
+																: Argument == "--project"	   ? &Result.ProjectFile
+																							   : nullptr;
+		if (Target)
 		{
-			const std::string& Argument = Arguments[Index];
-			if (Argument == "--calverly5")
+			*Target = TakeValue(Arguments, Index);
+		}
+		return Target != nullptr;
+	}
+
+	void TakeDistributeOption(const std::vector<std::string>& Arguments, size_t& Index, FEditorCommandLine& Result)
+	{
+		const std::string& Argument = Arguments[Index];
+		if (Argument == "--calverly5")
+		{
+			Result.bCalverly5 = true;
+		}
+		else if (Argument == "--plugin")
+		{
+			Result.Plugins.push_back({TakeValue(Arguments, Index), false, std::nullopt});
+		}
+		else if (Argument == "--original" || Argument == "--dlcs")
+		{
+			if (Result.Plugins.empty())
 			{
-				Result.bCalverly5 = true;
+				throw FUsageError{Argument + " belongs to a --plugin and must follow one"};
 			}
-			else if (Argument == "--plugin")
+			if (Argument == "--original")
 			{
-				Result.Plugins.push_back({TakeValue(Arguments, Index), false, std::nullopt});
-			}
-			else if (Argument == "--original" || Argument == "--dlcs")
-			{
-				if (Result.Plugins.empty())
-				{
-					throw FUsageError{Argument + " belongs to a --plugin and must follow one"};
-				}
-				if (Argument == "--original")
-				{
-					Result.Plugins.back().bOriginal = true;
-				}
-				else
-				{
-					Result.Plugins.back().RequiredDLCs = TakeValue(Arguments, Index);
-				}
+				Result.Plugins.back().bOriginal = true;
 			}
 			else
 			{
-				throw FUsageError{"unknown option for distribute: " + Argument};
+				Result.Plugins.back().RequiredDLCs = TakeValue(Arguments, Index);
 			}
+		}
+		else
+		{
+			throw FUsageError{"unknown option for distribute: " + Argument};
 		}
 	}
 }
@@ -74,33 +85,29 @@ namespace
 FEditorCommandLine ParseCommandLine(const std::vector<std::string>& Arguments)
 {
 	FEditorCommandLine Result;
-	for (const std::string& Argument : Arguments)
+	for (size_t Index = 0; Index < Arguments.size(); ++Index)
 	{
+		const std::string& Argument = Arguments[Index];
 		if (Argument == "--help" || Argument == "-h")
 		{
 			Result.bHelp = true;
 			return Result;
 		}
-	}
-	size_t Index = 0;
-	for (; Index < Arguments.size() && Result.Command.empty(); ++Index)
-	{
-		const std::string& Argument = Arguments[Index];
-		if (Argument == "--root")
+		if (TakeEditorOption(Arguments, Index, Result))
 		{
-			Result.Root = TakeValue(Arguments, Index);
+			continue;
 		}
-		else if (Argument == "--launch-dir")
+		if (!Result.Command.empty())
 		{
-			Result.LaunchDir = TakeValue(Arguments, Index);
-		}
-		else if (Argument == "--project")
-		{
-			Result.ProjectFile = TakeValue(Arguments, Index);
+			TakeDistributeOption(Arguments, Index, Result);
 		}
 		else if (Argument.rfind("-", 0) == 0)
 		{
 			throw FUsageError{"unknown option: " + Argument};
+		}
+		else if (Argument != "distribute")
+		{
+			throw FUsageError{"unknown command: " + Argument};
 		}
 		else
 		{
@@ -115,10 +122,5 @@ FEditorCommandLine ParseCommandLine(const std::vector<std::string>& Arguments)
 	{
 		throw FUsageError{"no command given"};
 	}
-	if (Result.Command != "distribute")
-	{
-		throw FUsageError{"unknown command: " + Result.Command};
-	}
-	ParseDistributeOptions(Arguments, Index, Result);
 	return Result;
 }

@@ -131,9 +131,9 @@ TEST_F(FHeadlessEditorTest, APluginTheDialogDoesNotOfferIsAnErrorAndNothingIsDis
 	EXPECT_NE(Empty.Err.find("CalverlyBranchLine"), std::string::npos) << Empty.Err;
 }
 
-TEST_F(FHeadlessEditorTest, WithoutPluginsDistributeShowsTheDialogsMessage)
+TEST_F(FHeadlessEditorTest, WithoutPluginsDistributeShowsTheDialogsMessageWhereverTheEditorOptionsStand)
 {
-	const FRun Run = this->Run({"--root", Sandbox().string(), "--launch-dir", "C:/Work", "--project", "C:/Work/Moravane/Moravane.uproject", "distribute"});
+	const FRun Run = this->Run({"--launch-dir", "C:\\Work", "distribute", "--root", Sandbox().string(), "--project", "C:/Work/Moravane/Moravane.uproject"});
 	EXPECT_EQ(Run.ExitCode, 0) << Run.Err;
 	EXPECT_EQ(SplitLines(Run.Out).back(), "Message: No plugins have been added. Please add a plugin before distributing.");
 	EXPECT_FALSE(fs::exists(Drive("Work/Moravane-WindowsNoEditor-.pak")));
