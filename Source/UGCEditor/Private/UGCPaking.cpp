@@ -154,11 +154,6 @@ namespace UGCPakingFiles
 	{
 		FFileHelper::SaveStringToFile(Text, *Path, FFileHelper::EEncodingOptions::AutoDetect, &IFileManager::Get(), 0);
 	}
-
-	FString GetAbsoluteLaunchDir()
-	{
-		return FPaths::ConvertRelativePathToFull(FPaths::LaunchDir());
-	}
 }
 
 void FUGCPaking::OpenPakingDialog()
@@ -215,9 +210,8 @@ TArray<FString> FUGCPaking::FindCookedPlugins()
 
 void FUGCPaking::Distribute()
 {
-	const FString LaunchDir = UGCPakingFiles::GetAbsoluteLaunchDir();
+	const FString LaunchDir = FPaths::ConvertRelativePathToFull(FPaths::LaunchDir());
 	const FString StagingRoot = FPaths::Combine(UGCPakingPaths::StagingRoot);
-	IPlatformFile& PlatformFile = FPlatformFileManager::Get().GetPlatformFile();
 
 	bool bFirstEntry = true;
 	FString FirstPluginName;
@@ -234,10 +228,7 @@ void FUGCPaking::Distribute()
 		const FString LinkPath = FPaths::Combine(UGCPakingPaths::StagedDLCDir, PluginName);
 		const FString LinkContentDir = FPaths::Combine(LinkPath, UGCPakingPaths::ContentFolderName);
 
-		if (!PlatformFile.DirectoryExists(*StagingRoot))
-		{
-			PlatformFile.CreateDirectoryTree(*StagingRoot);
-		}
+		UGCPakingFiles::EnsureDirectoryExists(StagingRoot);
 #if PLATFORM_WINDOWS
 		SetFileAttributesW(*FPaths::ConvertRelativePathToFull(StagingRoot), FILE_ATTRIBUTE_HIDDEN);
 #endif
