@@ -126,7 +126,7 @@ TEST_F(FPakingDialogTest, EditionCaptionIsBoldButEditableInTheDefaultColour)
 	const size_t Mark = LogMark();
 	EXPECT_TRUE(StandIn::CommitText(Caption, TEXT("Calverly6")));
 	EXPECT_EQ(Shown(Caption), "Calverly6");
-	EXPECT_TRUE(LogTempLinesSince(Mark).empty());
+	EXPECT_TRUE(LogTempLines(Mark).empty());
 	EXPECT_TRUE(MessageBoxTexts().empty());
 }
 

@@ -53,14 +53,3 @@ TSharedRef<SWidget> FPakingDialogTest::Child(const TSharedRef<SWidget>& Widget, 
 {
 	return StandIn::ChildSlots(Widget).at((size_t)Index).Widget;
 }
-
-std::vector<std::string> FPakingDialogTest::LogTempLinesSince(size_t Mark) const
-{
-	const std::vector<std::string> Lines = LogTempLines();
-	size_t Skipped = 0;
-	for (size_t Index = 0; Index < Mark; ++Index)
-	{
-		Skipped += StandIn::LogRecords()[Index].Category == TEXT("LogTemp") ? 1 : 0;
-	}
-	return std::vector<std::string>(Lines.begin() + (long)Skipped, Lines.end());
-}

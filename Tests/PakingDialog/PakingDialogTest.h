@@ -35,7 +35,6 @@ protected:
 	static std::string Shown(const TSharedRef<SWidget>& Widget) { return Utf8(StandIn::ShownText(Widget)); }
 
 	size_t LogMark() const { return StandIn::LogRecords().size(); }
-	std::vector<std::string> LogTempLinesSince(size_t Mark) const;
 
 	TSharedPtr<FUGCPaking> Paking;
 	TSharedPtr<SWidget> Dialog;

@@ -19,7 +19,7 @@ TEST_F(FPakingDialogTest, OriginalCheckboxesLogTheirEntryIndexFromZero)
 	StandIn::ClickCheckBox(OriginalCheckBox(2));
 	StandIn::ClickCheckBox(OriginalCheckBox(0));
 	StandIn::ClickCheckBox(OriginalCheckBox(0));
-	EXPECT_EQ(LogTempLinesSince(Mark), (std::vector<std::string>{"LogTemp: Plugin at index 2 marked as original", "LogTemp: Plugin at index 0 marked as original", "LogTemp: Plugin at index 0 unmarked as original"}));
+	EXPECT_EQ(LogTempLines(Mark), (std::vector<std::string>{"LogTemp: Plugin at index 2 marked as original", "LogTemp: Plugin at index 0 marked as original", "LogTemp: Plugin at index 0 unmarked as original"}));
 	EXPECT_EQ(StandIn::Paint(OriginalCheckBox(2)).CheckState, ECheckBoxState::Checked);
 	EXPECT_EQ(StandIn::Paint(OriginalCheckBox(0)).CheckState, ECheckBoxState::Unchecked);
 }
@@ -40,7 +40,7 @@ TEST_F(FPakingDialogTest, ResetEmptiesTheListAndNumbersFromZeroAgain)
 	EXPECT_EQ(StandIn::Paint(OriginalCheckBox(0)).CheckState, ECheckBoxState::Unchecked);
 	const size_t Mark = LogMark();
 	StandIn::ClickCheckBox(OriginalCheckBox(0));
-	EXPECT_EQ(LogTempLinesSince(Mark), (std::vector<std::string>{"LogTemp: Plugin at index 0 marked as original"}));
+	EXPECT_EQ(LogTempLines(Mark), (std::vector<std::string>{"LogTemp: Plugin at index 0 marked as original"}));
 }
 
 TEST_F(FPakingDialogTest, RowLeftBehindByResetStopsTheEditorWhenPainted)
@@ -62,7 +62,7 @@ TEST_F(FPakingDialogTest, EditionCheckboxLogsItsStateAndSurvivesReset)
 	StandIn::ClickCheckBox(EditionCheckBox());
 	StandIn::ClickCheckBox(EditionCheckBox());
 	StandIn::ClickCheckBox(EditionCheckBox());
-	EXPECT_EQ(LogTempLinesSince(Mark), (std::vector<std::string>{"LogTemp: Calverly5 checkbox is checked", "LogTemp: Calverly5 checkbox is unchecked", "LogTemp: Calverly5 checkbox is checked"}));
+	EXPECT_EQ(LogTempLines(Mark), (std::vector<std::string>{"LogTemp: Calverly5 checkbox is checked", "LogTemp: Calverly5 checkbox is unchecked", "LogTemp: Calverly5 checkbox is checked"}));
 
 	AddEntry("Alpha", true);
 	StandIn::ClickButton(ResetButton());
@@ -72,7 +72,7 @@ TEST_F(FPakingDialogTest, EditionCheckboxLogsItsStateAndSurvivesReset)
 	AddEntry("Alpha", true);
 	Mark = LogMark();
 	StandIn::ClickButton(DistributeButton());
-	const std::vector<std::string> Lines = LogTempLinesSince(Mark);
+	const std::vector<std::string> Lines = LogTempLines(Mark);
 	EXPECT_NE(std::find(Lines.begin(), Lines.end(), "LogTemp: UGC file Alpha.ugc is generated"), Lines.end());
 }
 
@@ -84,15 +84,15 @@ TEST_F(FPakingDialogTest, DLCTextIsSplitAtCommasBeforeItIsTrimmed)
 
 	size_t Mark = LogMark();
 	StandIn::CommitText(DLCTextBox(0), TEXT("DLC_A, DLC_B,,DLC_C "));
-	EXPECT_EQ(LogTempLinesSince(Mark), (std::vector<std::string>{"LogTemp: DLC_A", "LogTemp: DLC_B", "LogTemp: DLC_C"}));
+	EXPECT_EQ(LogTempLines(Mark), (std::vector<std::string>{"LogTemp: DLC_A", "LogTemp: DLC_B", "LogTemp: DLC_C"}));
 
 	Mark = LogMark();
 	StandIn::CommitText(DLCTextBox(0), TEXT(" , X"), ETextCommit::OnUserMovedFocus);
-	EXPECT_EQ(LogTempLinesSince(Mark), (std::vector<std::string>{"LogTemp: ", "LogTemp: X"}));
+	EXPECT_EQ(LogTempLines(Mark), (std::vector<std::string>{"LogTemp: ", "LogTemp: X"}));
 
 	Mark = LogMark();
 	StandIn::CommitText(DLCTextBox(0), TEXT(""), ETextCommit::OnCleared);
-	EXPECT_TRUE(LogTempLinesSince(Mark).empty());
+	EXPECT_TRUE(LogTempLines(Mark).empty());
 }
 
 TEST_F(FPakingDialogTest, RequiredDLCsReachTheDescriptorOfEachRun)
@@ -127,7 +127,7 @@ TEST_F(FPakingDialogTest, DistributeHandsOnlyTheEntriesWithAChoiceInListOrder)
 	const size_t Mark = LogMark();
 	EXPECT_TRUE(StandIn::ClickButton(DistributeButton()).IsEventHandled());
 	std::vector<std::string> Generated;
-	for (const std::string& Line : LogTempLinesSince(Mark))
+	for (const std::string& Line : LogTempLines(Mark))
 	{
 		if (Line.find("generated") != std::string::npos)
 		{
@@ -166,7 +166,7 @@ TEST_F(FPakingDialogTest, EmptyListsAreReportedInsteadOfActedOn)
 	{
 		EXPECT_EQ(Box.Type, EAppMsgType::Ok);
 	}
-	EXPECT_TRUE(LogTempLinesSince(Mark).empty());
+	EXPECT_TRUE(LogTempLines(Mark).empty());
 }
 
 TEST_F(FPakingDialogTest, WithoutAPipelineDistributeAndResetDoNothing)
@@ -178,6 +178,6 @@ TEST_F(FPakingDialogTest, WithoutAPipelineDistributeAndResetDoNothing)
 	EXPECT_TRUE(StandIn::ClickButton(DistributeButton()).IsEventHandled());
 	EXPECT_TRUE(StandIn::ClickButton(ResetButton()).IsEventHandled());
 	EXPECT_TRUE(MessageBoxTexts().empty());
-	EXPECT_TRUE(LogTempLinesSince(Mark).empty());
+	EXPECT_TRUE(LogTempLines(Mark).empty());
 	EXPECT_EQ(StandIn::ChildSlots(EntriesBox()).size(), 2u);
 }

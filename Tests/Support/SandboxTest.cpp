@@ -130,14 +130,15 @@ std::vector<std::string> FSandboxTest::LogLines() const
 	return Lines;
 }
 
-std::vector<std::string> FSandboxTest::LogTempLines() const
+std::vector<std::string> FSandboxTest::LogTempLines(size_t FirstRecord) const
 {
+	const std::vector<StandIn::FLogRecord>& Records = StandIn::LogRecords();
 	std::vector<std::string> Lines;
-	for (const StandIn::FLogRecord& Record : StandIn::LogRecords())
+	for (size_t Index = FirstRecord; Index < Records.size(); ++Index)
 	{
-		if (Record.Category == TEXT("LogTemp"))
+		if (Records[Index].Category == TEXT("LogTemp"))
 		{
-			Lines.push_back(Record.OutputLine());
+			Lines.push_back(Records[Index].OutputLine());
 		}
 	}
 	return Lines;

@@ -36,7 +36,8 @@ protected:
 
 	// Log lines as the output log shows them, and message box texts, in order.
 	std::vector<std::string> LogLines() const;
-	std::vector<std::string> LogTempLines() const;
+	// LogTemp's lines only, from the given record on.
+	std::vector<std::string> LogTempLines(size_t FirstRecord = 0) const;
 	std::vector<std::string> MessageBoxTexts() const;
 
 	std::filesystem::path Root;
