@@ -7,6 +7,7 @@ DEFINE_LOG_CATEGORY_STATIC(LogFileManager, Log, All);
 
 namespace
 {
+	// Letters match without regard to case, as FString comparison does.
 	bool MatchesWildcard(const FString& Name, const FString& Pattern, int32 NameIndex = 0, int32 PatternIndex = 0)
 	{
 		if (PatternIndex == Pattern.Len())
@@ -127,7 +128,7 @@ namespace
 			const bool bMatchAll = Pattern == TEXT("*") || Pattern == TEXT("*.*");
 			GetLowLevel().IterateDirectory(*Directory, [&](const TCHAR* Path, bool bIsDirectory) {
 				const FString Leaf = FPaths::GetCleanFilename(Path);
-				if (((bIsDirectory && Directories) || (!bIsDirectory && Files)) && (bMatchAll || MatchesWildcard(Leaf.ToUpper(), Pattern.ToUpper())))
+				if (((bIsDirectory && Directories) || (!bIsDirectory && Files)) && (bMatchAll || MatchesWildcard(Leaf, Pattern)))
 				{
 					Result.Add(Leaf);
 				}
