@@ -1,5 +1,8 @@
 #include "DistributeCommand.h"
-#include "StandInControl.h"
+#include "StandIn/Records/WindowRecord.h"
+#include "StandIn/UserInput.h"
+#include "StandIn/WidgetTree.h"
+#include "StandIn/World.h"
 #include "UGCPaking.h"
 #include <functional>
 #include <iostream>
@@ -104,7 +107,7 @@ int RunDistribute(const FEditorCommandLine& CommandLine)
 {
 	const TSharedRef<FUGCPaking> Paking = MakeShared<FUGCPaking>();
 	Paking->OpenPakingDialog();
-	const TSharedRef<SWidget> Dialog = StandIn::AddedWindows().back().Content;
+	const TSharedRef<SWidget> Dialog = StandIn::JournalRecords<StandIn::FWindowRecord>().back()->Content;
 	const TSharedRef<SWidget> EntriesBox = FrameCell(Dialog, 1);
 
 	try

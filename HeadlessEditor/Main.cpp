@@ -2,7 +2,9 @@
 // the UGCEditor module there and operates its user interface as a person would.
 #include "CommandLine.h"
 #include "DistributeCommand.h"
-#include "StandInControl.h"
+#include "StandIn/Records/LogRecord.h"
+#include "StandIn/Records/MessageBoxRecord.h"
+#include "StandIn/World.h"
 #include <filesystem>
 #include <iostream>
 
@@ -69,11 +71,12 @@ int main(int argc, char** argv)
 	}
 
 	StandIn::ResetWorld(World);
-	StandIn::SetLogListener([](const StandIn::FLogRecord& Record) {
-		std::cout << Record.OutputLine() << std::endl;
-	});
-	StandIn::SetMessageBoxListener([](const StandIn::FMessageBoxRecord& Record) {
-		std::cout << "Message: " << StandIn::ToUtf8(Record.Message.ToString()) << std::endl;
+	StandIn::SetJournalListener([](const StandIn::FJournalRecord& Record) {
+		// Windows join the output once the session runs through the level editor's menus.
+		if (dynamic_cast<const StandIn::FLogRecord*>(&Record) || dynamic_cast<const StandIn::FMessageBoxRecord*>(&Record))
+		{
+			std::cout << Record.Describe() << std::endl;
+		}
 	});
 
 	return RunDistribute(CommandLine);

@@ -1,5 +1,5 @@
 #include "HAL/PlatformProcess.h"
-#include "StandInControl.h"
+#include "StandIn/World.h"
 #include "StandInWorld.h"
 #include <cerrno>
 #include <cstdlib>

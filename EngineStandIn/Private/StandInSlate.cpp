@@ -1,5 +1,7 @@
-#include "StandInControl.h"
-#include "StandInWorld.h"
+#include "StandIn/Records/WindowRecord.h"
+#include "StandIn/UserInput.h"
+#include "StandIn/WidgetTree.h"
+#include "StandIn/World.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
@@ -14,12 +16,6 @@
 
 namespace
 {
-	std::vector<StandIn::FWindowRecord>& WindowRecords()
-	{
-		static std::vector<StandIn::FWindowRecord> Records;
-		return Records;
-	}
-
 	// Input meant for one kind of widget reaching another is a mistake of the caller, not a user action.
 	template <typename WidgetType>
 	WidgetType& As(const TSharedRef<SWidget>& Widget, const char* Kind)
@@ -60,9 +56,9 @@ struct FStandInSlateAccess
 {
 	static const FSlotBase& SlotAt(const FChildren& Children, int32 Index) { return Children.GetSlotAt(Index); }
 
-	static StandIn::FWindowRecord Record(const TSharedRef<SWindow>& Window, bool bShowImmediately)
+	static std::shared_ptr<StandIn::FWindowRecord> Record(const TSharedRef<SWindow>& Window, bool bShowImmediately)
 	{
-		return StandIn::FWindowRecord{Window, Window->Title.Get(), Window->InitialDesiredSize, Window->bHasMaximizeButton, Window->bHasMinimizeButton, bShowImmediately, Window->ChildSlot.GetWidget()};
+		return std::make_shared<StandIn::FWindowRecord>(Window, Window->Title.Get(), Window->InitialDesiredSize, Window->bHasMaximizeButton, Window->bHasMinimizeButton, bShowImmediately, Window->ChildSlot.GetWidget());
 	}
 
 	static StandIn::FPaintedWidget Paint(const TSharedRef<SWidget>& Widget)
@@ -148,25 +144,12 @@ FSlateApplication& FSlateApplication::Get()
 
 TSharedRef<SWindow> FSlateApplication::AddWindow(TSharedRef<SWindow> InSlateWindow, const bool bShowImmediately)
 {
-	WindowRecords().push_back(FStandInSlateAccess::Record(InSlateWindow, bShowImmediately));
+	StandIn::AppendToJournal(FStandInSlateAccess::Record(InSlateWindow, bShowImmediately));
 	return InSlateWindow;
 }
 
-namespace StandInSlate
-{
-	void ResetWindows()
-	{
-		WindowRecords().clear();
-	}
-} // namespace StandInSlate
-
 namespace StandIn
 {
-	const std::vector<FWindowRecord>& AddedWindows()
-	{
-		return WindowRecords();
-	}
-
 	std::string WidgetType(const TSharedRef<SWidget>& Widget)
 	{
 		return ToUtf8(Widget->GetTypeAsString());

@@ -1,5 +1,8 @@
 #include "StandInWorld.h"
-#include "StandInControl.h"
+#include "StandIn/Records/FileAttributesRecord.h"
+#include "StandIn/Records/LogRecord.h"
+#include "StandIn/Records/MessageBoxRecord.h"
+#include "StandIn/World.h"
 #include "Common/WindowsDrivePath.h"
 #include "HAL/PlatformFileManager.h"
 #include "HAL/PlatformProcess.h"
@@ -17,11 +20,6 @@ namespace
 	struct FRecords
 	{
 		StandIn::FWorld World;
-		std::vector<StandIn::FLogRecord> Logs;
-		std::vector<StandIn::FMessageBoxRecord> MessageBoxes;
-		std::vector<StandIn::FFileAttributesRecord> FileAttributes;
-		std::function<void(const StandIn::FLogRecord&)> LogListener;
-		std::function<void(const StandIn::FMessageBoxRecord&)> MessageBoxListener;
 		std::string OriginalPath;
 		FString BaseDirStorage;
 	};
@@ -45,16 +43,13 @@ namespace StandIn
 		}
 		State.World = World;
 		State.BaseDirStorage = World.BaseDir;
-		State.Logs.clear();
-		State.MessageBoxes.clear();
-		State.FileAttributes.clear();
+		StandInJournal::Clear();
 		// Drive C: is always there; other drives exist where the sandbox has their folder.
 		mkdir((World.DriveRoot + "/C").c_str(), 0777);
 		setenv(WindowsDrivePath::DriveRootVariable(), World.DriveRoot.c_str(), 1);
 		const std::string Path = std::string(STANDIN_PROGRAMS_DIR) + ":" + State.OriginalPath;
 		setenv("PATH", Path.c_str(), 1);
 		FPlatformFileManager::Get().SetPlatformFile(IPlatformFile::GetPlatformPhysical());
-		StandInSlate::ResetWindows();
 	}
 
 	const FWorld& GetWorld()
@@ -65,38 +60,6 @@ namespace StandIn
 	std::string HostPath(const FString& WindowsPath)
 	{
 		return StandInWorld::ToHost(*WindowsPath);
-	}
-
-	std::string FLogRecord::OutputLine() const
-	{
-		static const char* const Names[] = {"NoLogging", "Fatal", "Error", "Warning", "Display", "Log", "Verbose", "VeryVerbose"};
-		std::string Line = ToUtf8(Category) + ": ";
-		if (Verbosity != ELogVerbosity::Log)
-		{
-			Line += std::string(Names[Verbosity]) + ": ";
-		}
-		return Line + ToUtf8(Message);
-	}
-
-	const std::vector<FLogRecord>& LogRecords()
-	{
-		return Records().Logs;
-	}
-	const std::vector<FMessageBoxRecord>& MessageBoxes()
-	{
-		return Records().MessageBoxes;
-	}
-	const std::vector<FFileAttributesRecord>& FileAttributeCalls()
-	{
-		return Records().FileAttributes;
-	}
-	void SetLogListener(std::function<void(const FLogRecord&)> Listener)
-	{
-		Records().LogListener = std::move(Listener);
-	}
-	void SetMessageBoxListener(std::function<void(const FMessageBoxRecord&)> Listener)
-	{
-		Records().MessageBoxListener = std::move(Listener);
 	}
 
 	std::string ToUtf8(const FString& Text)
@@ -134,12 +97,7 @@ namespace StandInLogging
 {
 	void Emit(const FLogCategoryBase& Category, ELogVerbosity::Type Verbosity, const FString& Message)
 	{
-		FRecords& State = Records();
-		State.Logs.push_back(StandIn::FLogRecord{Category.GetCategoryName().ToString(), Verbosity, Message});
-		if (State.LogListener)
-		{
-			State.LogListener(State.Logs.back());
-		}
+		StandIn::AppendToJournal(std::make_shared<StandIn::FLogRecord>(Category.GetCategoryName().ToString(), Verbosity, Message));
 		if (Verbosity == ELogVerbosity::Fatal)
 		{
 			std::abort();
@@ -171,18 +129,13 @@ EAppReturnType::Type FMessageDialog::Open(EAppMsgType::Type MessageType, const F
 
 EAppReturnType::Type FMessageDialog::Open(EAppMsgType::Type MessageType, EAppReturnType::Type DefaultValue, const FText& Message, const FText* OptTitle)
 {
-	FRecords& State = Records();
-	State.MessageBoxes.push_back(StandIn::FMessageBoxRecord{MessageType, Message});
-	if (State.MessageBoxListener)
-	{
-		State.MessageBoxListener(State.MessageBoxes.back());
-	}
+	StandIn::AppendToJournal(std::make_shared<StandIn::FMessageBoxRecord>(MessageType, Message));
 	return MessageType == EAppMsgType::Ok ? EAppReturnType::Ok : DefaultValue;
 }
 
 BOOL SetFileAttributesW(LPCWSTR lpFileName, DWORD dwFileAttributes)
 {
-	Records().FileAttributes.push_back(StandIn::FFileAttributesRecord{FString(lpFileName), (uint32)dwFileAttributes});
+	StandIn::AppendToJournal(std::make_shared<StandIn::FFileAttributesRecord>(FString(lpFileName), (uint32)dwFileAttributes));
 	struct stat Info;
 	return stat(StandInWorld::ToHost(lpFileName).c_str(), &Info) == 0 ? 1 : 0;
 }

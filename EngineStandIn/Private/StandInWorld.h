@@ -12,8 +12,8 @@ namespace StandInWorld
 	std::string CurrentDirectoryOnHost();
 }
 
-namespace StandInSlate
+namespace StandInJournal
 {
-	// Forgets the windows added so far.
-	void ResetWindows();
-} // namespace StandInSlate
+	// Forgets every record; a world reset starts an empty journal.
+	void Clear();
+}

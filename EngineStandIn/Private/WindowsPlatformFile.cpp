@@ -1,7 +1,7 @@
 #include "GenericPlatform/GenericPlatformFile.h"
 #include "HAL/PlatformFileManager.h"
 #include "Misc/Paths.h"
-#include "StandInControl.h"
+#include "StandIn/World.h"
 #include "StandInWorld.h"
 #include <algorithm>
 #include <cerrno>

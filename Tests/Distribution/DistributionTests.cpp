@@ -120,13 +120,14 @@ TEST_F(FDistributionTest, OriginalAndOtherPluginsMakeOnePakWithDescriptorsAndMer
 	EXPECT_EQ(ReadFile(CookedFolder("Gamma") + "/Content/Maps/Route.umap"), "map of Gamma");
 
 	EXPECT_FALSE(Exists("C:/pellow")) << "the staging tree is removed";
-	ASSERT_FALSE(StandIn::FileAttributeCalls().empty());
-	for (const StandIn::FFileAttributesRecord& Call : StandIn::FileAttributeCalls())
+	ASSERT_FALSE(StandIn::JournalRecords<StandIn::FFileAttributesRecord>().empty());
+	for (const StandIn::FFileAttributesRecord* CallRecord : StandIn::JournalRecords<StandIn::FFileAttributesRecord>())
 	{
+		const StandIn::FFileAttributesRecord& Call = *CallRecord;
 		EXPECT_EQ(StandIn::ToUtf8(Call.Path), "C:/pellow/");
 		EXPECT_EQ(Call.Attributes, 0x2u);
 	}
-	EXPECT_EQ(StandIn::FileAttributeCalls().size(), 3u) << "hidden once per staged plugin";
+	EXPECT_EQ(StandIn::JournalRecords<StandIn::FFileAttributesRecord>().size(), 3u) << "hidden once per staged plugin";
 }
 
 TEST_F(FDistributionTest, EditionFlagWritesUgcDescriptorsNamedAfterTheFirstPlugin)
@@ -265,7 +266,7 @@ TEST_F(FDistributionTest, AnEmptyRunStillWritesAnEmptyResponseFileAndRunsThePakT
 	EXPECT_EQ(ToolCallArguments(PakTool, 1), (std::vector<std::string>{PakPath, "-create=C:/pellow/cooking.txt", "-compress"}));
 	EXPECT_EQ(ToolCallResponseFile(PakTool, 1), "");
 	EXPECT_EQ(ToolCallCount(Merger), 0);
-	EXPECT_TRUE(StandIn::FileAttributeCalls().empty());
+	EXPECT_TRUE(StandIn::JournalRecords<StandIn::FFileAttributesRecord>().empty());
 	EXPECT_EQ(LogTempLines(), (std::vector<std::string>{"LogTemp: Your pak is saved here: " + PakPath, "LogTemp: Pak file created successfully: " + PakPath}));
 	EXPECT_EQ(MessageBoxTexts(), (std::vector<std::string>{"Your pak is saved here: " + PakPath}));
 	EXPECT_FALSE(Exists("C:/pellow"));

@@ -40,9 +40,10 @@ TEST_F(FPakingDialogTest, EachUseOpensItsOwnNonModalWindowOnAFreshDiscovery)
 	const TSharedRef<SWidget> First = OpenDialog();
 	const TSharedRef<SWidget> Second = OpenDialog();
 
-	ASSERT_EQ(StandIn::AddedWindows().size(), 2u);
-	for (const StandIn::FWindowRecord& Window : StandIn::AddedWindows())
+	ASSERT_EQ(StandIn::JournalRecords<StandIn::FWindowRecord>().size(), 2u);
+	for (const StandIn::FWindowRecord* WindowRecord : StandIn::JournalRecords<StandIn::FWindowRecord>())
 	{
+		const StandIn::FWindowRecord& Window = *WindowRecord;
 		EXPECT_EQ(Utf8(Window.Title), "Paking Dialog");
 		EXPECT_EQ(StandIn::ToUtf8(Window.Title.GetNamespace()), "UGCPaking");
 		EXPECT_EQ(StandIn::ToUtf8(Window.Title.GetKey()), "PakingDialogTitle");

@@ -13,7 +13,7 @@ TSharedRef<SWidget> FPakingDialogTest::OpenDialog()
 		Paking = MakeShared<FUGCPaking>();
 	}
 	Paking->OpenPakingDialog();
-	Dialog = StandIn::AddedWindows().back().Content;
+	Dialog = StandIn::JournalRecords<StandIn::FWindowRecord>().back()->Content;
 	return Dialog.ToSharedRef();
 }
 

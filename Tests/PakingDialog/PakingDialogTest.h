@@ -34,7 +34,7 @@ protected:
 	static std::string Utf8(const FText& Text) { return StandIn::ToUtf8(Text.ToString()); }
 	static std::string Shown(const TSharedRef<SWidget>& Widget) { return Utf8(StandIn::ShownText(Widget)); }
 
-	size_t LogMark() const { return StandIn::LogRecords().size(); }
+	size_t LogMark() const { return StandIn::Journal().size(); }
 
 	TSharedPtr<FUGCPaking> Paking;
 	TSharedPtr<SWidget> Dialog;

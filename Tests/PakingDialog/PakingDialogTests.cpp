@@ -158,13 +158,13 @@ TEST_F(FPakingDialogTest, EmptyListsAreReportedInsteadOfActedOn)
 	EXPECT_TRUE(StandIn::ClickButton(DistributeButton()).IsEventHandled());
 
 	EXPECT_EQ(MessageBoxTexts(), (std::vector<std::string>{"No cooked plugins available.", "No cooked plugins available.", "No plugins have been added. Please add a plugin before distributing."}));
-	const std::vector<StandIn::FMessageBoxRecord>& Boxes = StandIn::MessageBoxes();
-	EXPECT_EQ(StandIn::ToUtf8(Boxes[0].Message.GetNamespace()), "SPakingDialog");
-	EXPECT_EQ(StandIn::ToUtf8(Boxes[0].Message.GetKey()), "NoCookedPluginsMessage");
-	EXPECT_EQ(StandIn::ToUtf8(Boxes[2].Message.GetKey()), "NoPluginsAddedMessage");
-	for (const StandIn::FMessageBoxRecord& Box : Boxes)
+	const std::vector<const StandIn::FMessageBoxRecord*> Boxes = StandIn::JournalRecords<StandIn::FMessageBoxRecord>();
+	EXPECT_EQ(StandIn::ToUtf8(Boxes[0]->Message.GetNamespace()), "SPakingDialog");
+	EXPECT_EQ(StandIn::ToUtf8(Boxes[0]->Message.GetKey()), "NoCookedPluginsMessage");
+	EXPECT_EQ(StandIn::ToUtf8(Boxes[2]->Message.GetKey()), "NoPluginsAddedMessage");
+	for (const StandIn::FMessageBoxRecord* Box : Boxes)
 	{
-		EXPECT_EQ(Box.Type, EAppMsgType::Ok);
+		EXPECT_EQ(Box->Type, EAppMsgType::Ok);
 	}
 	EXPECT_TRUE(LogTempLines(Mark).empty());
 }

@@ -123,22 +123,22 @@ std::string FSandboxTest::ToolCallPackedFile(const std::string& ToolWindowsPath,
 std::vector<std::string> FSandboxTest::LogLines() const
 {
 	std::vector<std::string> Lines;
-	for (const StandIn::FLogRecord& Record : StandIn::LogRecords())
+	for (const StandIn::FLogRecord* Record : StandIn::JournalRecords<StandIn::FLogRecord>())
 	{
-		Lines.push_back(Record.OutputLine());
+		Lines.push_back(Record->Describe());
 	}
 	return Lines;
 }
 
 std::vector<std::string> FSandboxTest::LogTempLines(size_t FirstRecord) const
 {
-	const std::vector<StandIn::FLogRecord>& Records = StandIn::LogRecords();
 	std::vector<std::string> Lines;
-	for (size_t Index = FirstRecord; Index < Records.size(); ++Index)
+	for (size_t Index = FirstRecord; Index < StandIn::Journal().size(); ++Index)
 	{
-		if (Records[Index].Category == TEXT("LogTemp"))
+		const StandIn::FLogRecord* Record = dynamic_cast<const StandIn::FLogRecord*>(StandIn::Journal()[Index].get());
+		if (Record != nullptr && Record->Category == TEXT("LogTemp"))
 		{
-			Lines.push_back(Records[Index].OutputLine());
+			Lines.push_back(Record->Describe());
 		}
 	}
 	return Lines;
@@ -147,9 +147,9 @@ std::vector<std::string> FSandboxTest::LogTempLines(size_t FirstRecord) const
 std::vector<std::string> FSandboxTest::MessageBoxTexts() const
 {
 	std::vector<std::string> Texts;
-	for (const StandIn::FMessageBoxRecord& Record : StandIn::MessageBoxes())
+	for (const StandIn::FMessageBoxRecord* Record : StandIn::JournalRecords<StandIn::FMessageBoxRecord>())
 	{
-		Texts.push_back(StandIn::ToUtf8(Record.Message.ToString()));
+		Texts.push_back(StandIn::ToUtf8(Record->Message.ToString()));
 	}
 	return Texts;
 }

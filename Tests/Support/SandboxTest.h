@@ -1,6 +1,14 @@
 #pragma once
 
-#include "StandInControl.h"
+#include "StandIn/Journal.h"
+#include "StandIn/Records/FileAttributesRecord.h"
+#include "StandIn/Records/LogRecord.h"
+#include "StandIn/Records/MessageBoxRecord.h"
+#include "StandIn/Records/ProcessRecords.h"
+#include "StandIn/Records/WindowRecord.h"
+#include "StandIn/UserInput.h"
+#include "StandIn/WidgetTree.h"
+#include "StandIn/World.h"
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "StandIn/Journal.h"
+
+namespace StandIn
+{
+	// A SetFileAttributesW call.
+	class FFileAttributesRecord : public FJournalRecord
+	{
+	public:
+		FFileAttributesRecord(FString InPath, uint32 InAttributes)
+			: Path(std::move(InPath)), Attributes(InAttributes) {}
+
+		// "SetFileAttributesW: <path> 0x<attributes>"
+		std::string Describe() const override;
+		bool IsShownInEditor() const override { return false; }
+
+		FString Path;
+		uint32 Attributes;
+	};
+}

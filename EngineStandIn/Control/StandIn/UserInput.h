@@ -1,0 +1,25 @@
+#pragma once
+
+// The user's hands: input on widgets as a person at the editor would give it. Each function stops the
+// program when the widget is not of the kind the input is meant for. The module never includes this header.
+#include "CoreMinimal.h"
+#include "Input/Reply.h"
+#include "Types/SlateEnums.h"
+#include "Widgets/SWidget.h"
+#include <vector>
+
+namespace StandIn
+{
+	FReply ClickButton(const TSharedRef<SWidget>& Button);
+	// A click on the box: checked or undetermined becomes unchecked, unchecked becomes checked.
+	void ClickCheckBox(const TSharedRef<SWidget>& CheckBox);
+	// Opens a combo box's list: the row widgets its OnGenerateWidget makes, one per option.
+	std::vector<TSharedRef<SWidget>> OpenComboBox(const TSharedRef<SWidget>& ComboBox);
+	// Opens the list and clicks an option (selection kind OnMouseClick), by index or by the text its row
+	// shows; false when there is no such option.
+	bool ChooseComboOption(const TSharedRef<SWidget>& ComboBox, int32 OptionIndex);
+	bool ChooseComboOption(const TSharedRef<SWidget>& ComboBox, const FString& ShownRowText);
+	// Replaces the contents of an editable text or text box as a user's typing would, then commits them;
+	// false, with nothing changed, when the text is read-only.
+	bool CommitText(const TSharedRef<SWidget>& TextWidget, const FString& Text, ETextCommit::Type CommitType = ETextCommit::OnEnter);
+}

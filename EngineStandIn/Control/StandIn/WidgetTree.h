@@ -1,0 +1,49 @@
+#pragma once
+
+// Reading the retained widget tree as a paint would show it. The module never includes this header.
+#include "CoreMinimal.h"
+#include "Fonts/SlateFontInfo.h"
+#include "Layout/Margin.h"
+#include "Styling/SlateColor.h"
+#include "Styling/SlateTypes.h"
+#include "Widgets/SWidget.h"
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace StandIn
+{
+	// The class as written at SNew: "SButton", "SComboBox<TSharedPtr<FString>>".
+	std::string WidgetType(const TSharedRef<SWidget>& Widget);
+
+	// A child with the slot that holds it, in the widget's order. Fill is a box slot's stretch
+	// coefficient (0 when it sizes to its content, 1 by default, -1 outside boxes); Column and Row are a
+	// grid slot's (-1 elsewhere).
+	struct FChildSlot
+	{
+		TSharedRef<SWidget> Widget;
+		FMargin Padding;
+		float Fill;
+		int32 Column;
+		int32 Row;
+	};
+	std::vector<FChildSlot> ChildSlots(const TSharedRef<SWidget>& Widget);
+
+	// A widget as a paint shows it: bound attributes are asked again. Text is a button's caption, an
+	// editable text's contents (what the user typed, unless the text is bound) or a window's title. An
+	// unset font or colour is the widget style's.
+	struct FPaintedWidget
+	{
+		FText Text;
+		bool bTextIsBound = false;
+		FText HintText;
+		std::optional<FSlateFontInfo> Font;
+		std::optional<FSlateColor> ColorAndOpacity;
+		bool bIsReadOnly = false;
+		const FButtonStyle* ButtonStyle = nullptr;
+		ECheckBoxState CheckState = ECheckBoxState::Unchecked;
+	};
+	FPaintedWidget Paint(const TSharedRef<SWidget>& Widget);
+	// The text the widget shows, or else the first non-empty text below it (depth first).
+	FText ShownText(const TSharedRef<SWidget>& Widget);
+}

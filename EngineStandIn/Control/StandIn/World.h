@@ -1,0 +1,32 @@
+#pragma once
+
+// World set-up: the Windows world the stand-in engine runs in. The module never includes this header.
+#include "CoreMinimal.h"
+#include <string>
+
+namespace StandIn
+{
+	struct FWorld
+	{
+		// Host folder that holds the drives: "C:/x" is the host file "<DriveRoot>/C/x".
+		std::string DriveRoot;
+		// As GetCurrentDirectoryW gave it at start-up, plus '/'.
+		FString LaunchDir = TEXT("C:/Work/");
+		// The engine binaries folder, which is also the editor's current directory.
+		FString BaseDir = TEXT("C:/Work/Engine/Binaries/Win64/");
+		FString ProjectFilePath = TEXT("C:/Work/Moravane/Moravane.uproject");
+	};
+
+	// Starts a fresh world: drive C: present, the journal emptied, the physical layer on top of the
+	// platform-file chain, and UGC_DRIVE_ROOT and PATH (with the stand-in's cmd.exe first) set for child
+	// programs.
+	void ResetWorld(const FWorld& World);
+	const FWorld& GetWorld();
+
+	// Host path of a Windows path ("C:/Work/x" -> "<DriveRoot>/C/Work/x"); relative paths are taken from
+	// the editor's current directory.
+	std::string HostPath(const FString& WindowsPath);
+
+	std::string ToUtf8(const FString& Text);
+	FString FromUtf8(const std::string& Text);
+}
