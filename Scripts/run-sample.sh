@@ -5,8 +5,9 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 Scripts/install-dependencies.sh
-cmake --preset default > /dev/null
-cmake --build --preset default --target ugc-editor > /dev/null
+# The first run builds the stand-in engine and the module, which takes a while; its progress shows.
+cmake --preset release > /dev/null
+cmake --build --preset release --target ugc-editor
 
 sandbox=build/sample-run
 rm -rf "$sandbox"
@@ -15,7 +16,7 @@ marker=$(mktemp)
 trap 'rm -f "$marker"' EXIT
 sleep 1
 
-command=(build/HeadlessEditor/ugc-editor --root "$sandbox" distribute --calverly5
+command=(build/release/HeadlessEditor/ugc-editor --root "$sandbox" distribute --calverly5
 	--plugin CalverlyBranchLine --original --dlcs "Moravane_Base, Calverly5_Signals"
 	--plugin ExpressTimetable --original
 	--plugin ThirdPartyLocos)

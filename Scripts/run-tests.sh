@@ -4,6 +4,6 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 Scripts/install-dependencies.sh
-cmake --preset default
-cmake --build --preset default
-ctest --preset default
+cmake --preset release
+cmake --build --preset release
+ctest --preset release
