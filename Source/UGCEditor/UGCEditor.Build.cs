@@ -15,6 +15,8 @@ public class UGCEditor : ModuleRules
 		{
 			"Slate",
 			"SlateCore",
+			// SComboBox's template code, instantiated in this module, refers to EKeys.
+			"InputCore",
 		});
 	}
 }
