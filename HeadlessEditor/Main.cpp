@@ -75,7 +75,8 @@ int main(int argc, char** argv)
 		// Windows join the output once the session runs through the level editor's menus.
 		if (dynamic_cast<const StandIn::FLogRecord*>(&Record) || dynamic_cast<const StandIn::FMessageBoxRecord*>(&Record))
 		{
-			std::cout << Record.Describe() << std::endl;
+			// One flush at exit, not one a line: a run over many files logs tens of thousands of lines.
+			std::cout << Record.Describe() << '\n';
 		}
 	});
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <dirent.h>
 #include <sys/stat.h>
 #include <sys/time.h>
@@ -149,13 +150,13 @@ namespace
 
 		virtual bool IterateDirectory(const TCHAR* Directory, FDirectoryVisitor& Visitor) override
 		{
-			return Walk(Directory, [&Visitor](const FString& Path, const struct stat& Info) {
-				return Visitor.Visit(*Path, S_ISDIR(Info.st_mode));
+			return Walk(Directory, [&Visitor](const FString& Path, bool bIsDirectory) {
+				return Visitor.Visit(*Path, bIsDirectory);
 			});
 		}
 		virtual bool IterateDirectoryStat(const TCHAR* Directory, FDirectoryStatVisitor& Visitor) override
 		{
-			return Walk(Directory, [this, &Visitor](const FString& Path, const struct stat& Info) {
+			return Walk(Directory, [this, &Visitor](const FString& Path, bool bIsDirectory) {
 				return Visitor.Visit(*Path, GetStatData(*Path));
 			});
 		}
@@ -170,27 +171,34 @@ namespace
 			{
 				return false;
 			}
-			std::vector<FString> Names;
+			// The entry's type comes with the name, as FindFirstFile gives it on Windows; only links need a
+			// look at what they point to, since directory links are followed.
+			std::vector<std::pair<FString, unsigned char>> Entries;
 			while (const dirent* Entry = readdir(Handle))
 			{
-				const std::string Name = Entry->d_name;
-				if (Name != "." && Name != "..")
+				const char* Name = Entry->d_name;
+				if (std::strcmp(Name, ".") != 0 && std::strcmp(Name, "..") != 0)
 				{
-					Names.push_back(StandIn::FromUtf8(Name));
+					Entries.emplace_back(StandIn::FromUtf8(Name), Entry->d_type);
 				}
 			}
 			closedir(Handle);
-			std::sort(Names.begin(), Names.end(), [](const FString& A, const FString& B) {
-				return A < B;
+			std::sort(Entries.begin(), Entries.end(), [](const std::pair<FString, unsigned char>& A, const std::pair<FString, unsigned char>& B) {
+				return A.first < B.first;
 			});
-			for (const FString& Name : Names)
+			for (const std::pair<FString, unsigned char>& Entry : Entries)
 			{
-				struct stat Info;
-				if (stat((HostDirectory + "/" + StandIn::ToUtf8(Name)).c_str(), &Info) != 0)
+				bool bIsDirectory = Entry.second == DT_DIR;
+				if (Entry.second == DT_LNK || Entry.second == DT_UNKNOWN)
 				{
-					continue;
+					struct stat Info;
+					if (stat((HostDirectory + "/" + StandIn::ToUtf8(Entry.first)).c_str(), &Info) != 0)
+					{
+						continue;
+					}
+					bIsDirectory = S_ISDIR(Info.st_mode);
 				}
-				if (!VisitEntry(FString(Directory) / Name, Info))
+				if (!VisitEntry(FString(Directory) / Entry.first, bIsDirectory))
 				{
 					return false;
 				}
