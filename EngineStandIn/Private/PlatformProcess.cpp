@@ -1,13 +1,15 @@
 #include "HAL/PlatformProcess.h"
+#include "Common/WindowsCommandLine.h"
+#include "StandIn/Records/ProcessRecords.h"
 #include "StandIn/World.h"
 #include "StandInWorld.h"
 #include <cerrno>
-#include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
 #include <poll.h>
 #include <string>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -16,91 +18,23 @@ DEFINE_LOG_CATEGORY_STATIC(LogWindows, Log, All);
 
 namespace
 {
-	// The argument rules of the Microsoft C runtime: blanks separate, quotes group, backslashes escape
-	// only before a quote, and "" inside quotes is a literal quote.
-	std::vector<std::string> SplitWindowsArguments(const std::string& CommandLine)
+	// CreateProcess appends ".exe" to a program name without an extension.
+	std::string WithDefaultExtension(const std::string& Program)
 	{
-		std::vector<std::string> Arguments;
-		size_t Index = 0;
-		while (Index < CommandLine.size())
-		{
-			while (Index < CommandLine.size() && (CommandLine[Index] == ' ' || CommandLine[Index] == '\t'))
-			{
-				++Index;
-			}
-			if (Index >= CommandLine.size())
-			{
-				break;
-			}
-			std::string Argument;
-			bool bInQuotes = false;
-			while (Index < CommandLine.size() && (bInQuotes || (CommandLine[Index] != ' ' && CommandLine[Index] != '\t')))
-			{
-				size_t Backslashes = 0;
-				while (Index < CommandLine.size() && CommandLine[Index] == '\\')
-				{
-					++Backslashes;
-					++Index;
-				}
-				if (Index < CommandLine.size() && CommandLine[Index] == '"')
-				{
-					Argument.append(Backslashes / 2, '\\');
-					if (Backslashes % 2 == 1)
-					{
-						Argument += '"';
-					}
-					else if (bInQuotes && Index + 1 < CommandLine.size() && CommandLine[Index + 1] == '"')
-					{
-						Argument += '"';
-						++Index;
-					}
-					else
-					{
-						bInQuotes = !bInQuotes;
-					}
-					++Index;
-				}
-				else
-				{
-					Argument.append(Backslashes, '\\');
-					if (Index < CommandLine.size() && (bInQuotes || (CommandLine[Index] != ' ' && CommandLine[Index] != '\t')))
-					{
-						Argument += CommandLine[Index++];
-					}
-				}
-			}
-			Arguments.push_back(Argument);
-		}
-		return Arguments;
-	}
-
-	bool IsExecutableFile(const std::string& Path)
-	{
-		struct stat Info;
-		return stat(Path.c_str(), &Info) == 0 && S_ISREG(Info.st_mode) && access(Path.c_str(), X_OK) == 0;
+		const size_t NameStart = Program.find_last_of("/\\:");
+		const size_t Dot = Program.rfind('.');
+		const bool bHasExtension = Dot != std::string::npos && (NameStart == std::string::npos || Dot > NameStart);
+		return bHasExtension ? Program : Program + ".exe";
 	}
 
 	// A bare name is looked up on PATH; anything with a drive or a separator is a path of the Windows world.
 	std::string ResolveProgram(const std::string& Program)
 	{
-		if (Program.find('/') != std::string::npos || Program.find('\\') != std::string::npos || Program.find(':') != std::string::npos)
+		if (Program.find_first_of("/\\:") != std::string::npos)
 		{
 			return StandInWorld::ToHost(*StandIn::FromUtf8(Program));
 		}
-		const char* PathVariable = std::getenv("PATH");
-		std::string SearchPath = PathVariable ? PathVariable : "";
-		size_t Start = 0;
-		while (Start <= SearchPath.size())
-		{
-			const size_t End = std::min(SearchPath.find(':', Start), SearchPath.size());
-			const std::string Candidate = SearchPath.substr(Start, End - Start) + "/" + Program;
-			if (IsExecutableFile(Candidate))
-			{
-				return Candidate;
-			}
-			Start = End + 1;
-		}
-		return std::string();
+		return WindowsCommandLine::FindOnPath(Program);
 	}
 
 	// The Win32 error CreateProcess would give for a program that cannot start.
@@ -138,111 +72,123 @@ namespace
 		}
 	}
 
-	void ReadBothPipes(int OutFd, int ErrFd, std::string& Out, std::string& Err)
+	// As PeekNamedPipe then ReadFile: only what the pipe holds right now, never waiting for more.
+	void ReadAvailable(int Fd, std::string& Into)
 	{
-		struct pollfd Fds[2] = {{OutFd, POLLIN, 0}, {ErrFd, POLLIN, 0}};
-		int Open = 2;
-		char Buffer[4096];
-		while (Open > 0)
+		int Available = 0;
+		if (Fd < 0 || ioctl(Fd, FIONREAD, &Available) != 0 || Available <= 0)
 		{
-			if (poll(Fds, 2, -1) < 0)
+			return;
+		}
+		std::vector<char> Buffer((size_t)Available);
+		ssize_t Count;
+		while ((Count = read(Fd, Buffer.data(), Buffer.size())) < 0 && errno == EINTR)
+		{
+		}
+		if (Count > 0)
+		{
+			Into.append(Buffer.data(), (size_t)Count);
+		}
+	}
+
+	// The engine reads the pipes while the child runs and once more after it has ended, then lets them go:
+	// whatever a grandchild that still holds them writes later is not waited for.
+	int ReadPipesUntilExit(pid_t Child, int OutFd, int ErrFd, std::string& Out, std::string& Err)
+	{
+		// Wakes on the child's end as well as on output, instead of polling on a timer.
+		const int ChildFd = (int)syscall(SYS_pidfd_open, Child, 0);
+		struct pollfd Fds[3] = {{OutFd, POLLIN, 0}, {ErrFd, POLLIN, 0}, {ChildFd, POLLIN, 0}};
+		int Status = 0;
+		for (;;)
+		{
+			ReadAvailable(Fds[0].fd, Out);
+			ReadAvailable(Fds[1].fd, Err);
+			pid_t Waited;
+			while ((Waited = waitpid(Child, &Status, WNOHANG)) < 0 && errno == EINTR)
 			{
-				if (errno == EINTR)
-				{
-					continue;
-				}
+			}
+			if (Waited != 0)
+			{
+				break;
+			}
+			if (poll(Fds, 3, ChildFd < 0 ? 10 : -1) < 0 && errno != EINTR)
+			{
 				break;
 			}
 			for (int Which = 0; Which < 2; ++Which)
 			{
-				if (Fds[Which].fd < 0 || Fds[Which].revents == 0)
+				// A pipe whose writers are all gone would wake poll for ever; the child may still run.
+				int Available = 0;
+				if (Fds[Which].fd >= 0 && (Fds[Which].revents & (POLLHUP | POLLERR)) && ioctl(Fds[Which].fd, FIONREAD, &Available) == 0 && Available == 0)
 				{
-					continue;
-				}
-				const ssize_t Count = read(Fds[Which].fd, Buffer, sizeof(Buffer));
-				if (Count > 0)
-				{
-					(Which == 0 ? Out : Err).append(Buffer, (size_t)Count);
-				}
-				else if (Count == 0 || errno != EINTR)
-				{
-					close(Fds[Which].fd);
 					Fds[Which].fd = -1;
-					--Open;
 				}
 			}
 		}
+		ReadAvailable(Fds[0].fd, Out);
+		ReadAvailable(Fds[1].fd, Err);
+		if (ChildFd >= 0)
+		{
+			close(ChildFd);
+		}
+		return WindowsCommandLine::ExitCodeOf(Status);
+	}
+}
+
+namespace StandIn
+{
+	std::string FChildProcessRecord::Describe() const
+	{
+		return "Process: " + ToUtf8(CommandLine);
 	}
 }
 
 bool FPlatformProcess::ExecProcess(const TCHAR* URL, const TCHAR* Params, int32* OutReturnCode, FString* OutStdOut, FString* OutStdErr, const TCHAR* OptionalWorkingDirectory)
 {
-	std::string Program = StandIn::ToUtf8(URL);
-	if (Program.size() >= 2 && Program.front() == '"' && Program.back() == '"')
-	{
-		Program = Program.substr(1, Program.size() - 2);
-	}
-	const std::string HostProgram = ResolveProgram(Program);
-	std::vector<std::string> Arguments = SplitWindowsArguments(StandIn::ToUtf8(Params ? Params : TEXT("")));
-	Arguments.insert(Arguments.begin(), Program);
+	// The engine quotes the URL unless it already starts with a quote, and passes the parameters as given.
+	const FString CommandLine = URL[0] != TEXT('"') ? FString::Printf(TEXT("\"%s\" %s"), URL, Params) : FString::Printf(TEXT("%s %s"), URL, Params);
+	// Recorded before the start, so a program that cannot start still shows in the journal, followed by the
+	// warnings that say why: the editor did ask for it, and a reader looking for a step that did nothing
+	// should find the attempt.
+	StandIn::AppendToJournal(std::make_shared<StandIn::FChildProcessRecord>(CommandLine));
+
+	const std::string Line = StandIn::ToUtf8(CommandLine);
+	std::string Program;
+	WindowsCommandLine::EndOfProgramName(Line, &Program);
+	const std::string HostProgram = ResolveProgram(WithDefaultExtension(Program));
 	const std::string WorkingDirectory = OptionalWorkingDirectory ? StandInWorld::ToHost(OptionalWorkingDirectory) : StandInWorld::CurrentDirectoryOnHost();
 
-	int OutPipe[2], ErrPipe[2], ExecErrorPipe[2];
-	if (pipe(OutPipe) != 0 || pipe(ErrPipe) != 0 || pipe2(ExecErrorPipe, O_CLOEXEC) != 0)
+	const bool bCapture = OutStdOut || OutStdErr;
+	int OutPipe[2] = {-1, -1};
+	int ErrPipe[2] = {-1, -1};
+	if (bCapture && (pipe2(OutPipe, O_CLOEXEC) != 0 || pipe2(ErrPipe, O_CLOEXEC) != 0))
 	{
 		return false;
 	}
-	const pid_t Child = fork();
-	if (Child == 0)
+	// The editor is a windowed program: its children find nothing on standard input. A detached child
+	// without capture writes nowhere.
+	const int Null = open("/dev/null", O_RDWR | O_CLOEXEC);
+	WindowsCommandLine::FStandardHandles Handles;
+	Handles.Input = Null;
+	Handles.Output = OutStdOut ? OutPipe[1] : Null;
+	Handles.Error = OutStdErr ? ErrPipe[1] : Null;
+	int StartError = 0;
+	const pid_t Child = WindowsCommandLine::Start(HostProgram, Line, Handles, WorkingDirectory, StartError);
+	close(Null);
+	if (bCapture)
 	{
-		const int Null = open("/dev/null", O_RDWR);
-		dup2(Null, STDIN_FILENO);
-		// A detached process without capture writes nowhere.
-		dup2(OutStdOut ? OutPipe[1] : Null, STDOUT_FILENO);
-		dup2(OutStdErr ? ErrPipe[1] : Null, STDERR_FILENO);
-		close(Null);
-		close(OutPipe[0]);
 		close(OutPipe[1]);
-		close(ErrPipe[0]);
 		close(ErrPipe[1]);
-		close(ExecErrorPipe[0]);
-		if (!WorkingDirectory.empty())
-		{
-			chdir(WorkingDirectory.c_str());
-		}
-		std::vector<char*> Argv;
-		for (std::string& Argument : Arguments)
-		{
-			Argv.push_back(&Argument[0]);
-		}
-		Argv.push_back(nullptr);
-		int ExecErrno = ENOENT;
-		if (!HostProgram.empty())
-		{
-			execv(HostProgram.c_str(), Argv.data());
-			ExecErrno = errno;
-		}
-		write(ExecErrorPipe[1], &ExecErrno, sizeof(ExecErrno));
-		_exit(127);
-	}
-	close(OutPipe[1]);
-	close(ErrPipe[1]);
-	close(ExecErrorPipe[1]);
-
-	int ExecErrno = 0;
-	const bool bStartFailed = Child < 0 || read(ExecErrorPipe[0], &ExecErrno, sizeof(ExecErrno)) == (ssize_t)sizeof(ExecErrno);
-	close(ExecErrorPipe[0]);
-	std::string Out, Err;
-	ReadBothPipes(OutPipe[0], ErrPipe[0], Out, Err);
-	int Status = 0;
-	if (Child > 0)
-	{
-		waitpid(Child, &Status, 0);
 	}
 
-	if (bStartFailed)
+	if (Child < 0)
 	{
-		const int32 ErrorCode = WindowsErrorFor(HostProgram, Child < 0 ? errno : ExecErrno);
+		if (bCapture)
+		{
+			close(OutPipe[0]);
+			close(ErrPipe[0]);
+		}
+		const int32 ErrorCode = WindowsErrorFor(HostProgram, StartError);
 		UE_LOG(LogWindows, Warning, TEXT("CreateProc failed: %s (0x%08x)"), WindowsErrorMessage(ErrorCode), ErrorCode);
 		UE_LOG(LogWindows, Warning, TEXT("URL: %s %s"), URL, Params);
 		if (OutReturnCode)
@@ -251,9 +197,22 @@ bool FPlatformProcess::ExecProcess(const TCHAR* URL, const TCHAR* Params, int32*
 		}
 		return false;
 	}
+
+	int ExitCode = 0;
+	std::string Out, Err;
+	if (bCapture)
+	{
+		ExitCode = ReadPipesUntilExit(Child, OutStdOut ? OutPipe[0] : -1, OutStdErr ? ErrPipe[0] : -1, Out, Err);
+		close(OutPipe[0]);
+		close(ErrPipe[0]);
+	}
+	else
+	{
+		ExitCode = WindowsCommandLine::WaitForExitCode(Child);
+	}
 	if (OutReturnCode)
 	{
-		*OutReturnCode = WIFEXITED(Status) ? WEXITSTATUS(Status) : 128 + WTERMSIG(Status);
+		*OutReturnCode = ExitCode;
 	}
 	if (OutStdOut && !Out.empty())
 	{

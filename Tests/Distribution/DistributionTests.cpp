@@ -53,7 +53,7 @@ namespace
 	{
 		const std::string Path = testing::TempDir() + "/ugc-descriptor.json";
 		std::ofstream(Path, std::ios::binary) << Bytes;
-		return std::system(("jq -e . '" + Path + "' > /dev/null").c_str()) == 0;
+		return HostShell(("jq -e . '" + Path + "' > /dev/null").c_str()) == 0;
 	}
 }
 

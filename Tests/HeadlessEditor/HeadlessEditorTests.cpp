@@ -59,7 +59,7 @@ protected:
 		}
 		const fs::path Out = Root / "stdout.txt";
 		const fs::path Err = Root / "stderr.txt";
-		const int Status = std::system((Command + " > " + Quote(Out.string()) + " 2> " + Quote(Err.string())).c_str());
+		const int Status = HostShell((Command + " > " + Quote(Out.string()) + " 2> " + Quote(Err.string())).c_str());
 		return FRun{WIFEXITED(Status) ? WEXITSTATUS(Status) : -1, ReadAll(Out), ReadAll(Err)};
 	}
 

@@ -2,6 +2,10 @@
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
+#include <spawn.h>
+#include <sys/wait.h>
+
+extern char** environ;
 
 namespace fs = std::filesystem;
 
@@ -173,4 +177,19 @@ std::vector<std::string> ToUtf8Strings(const TArray<FString>& Items)
 		Result.push_back(StandIn::ToUtf8(Item));
 	}
 	return Result;
+}
+
+int HostShell(const std::string& Command)
+{
+	const char* Argv[] = {"sh", "-c", Command.c_str(), nullptr};
+	pid_t Child = -1;
+	if (posix_spawn(&Child, "/bin/sh", nullptr, nullptr, const_cast<char**>(Argv), environ) != 0)
+	{
+		return -1;
+	}
+	int Status = -1;
+	while (waitpid(Child, &Status, 0) < 0 && errno == EINTR)
+	{
+	}
+	return Status;
 }

@@ -52,4 +52,7 @@ protected:
 };
 
 std::vector<std::string> SplitLines(const std::string& Text);
+// A command run by the host's /bin/sh, with the wait status the host's system(3) gives. A test program is
+// linked with the stand-in, whose system() is the Windows runtime's and runs cmd.exe.
+int HostShell(const std::string& Command);
 std::vector<std::string> ToUtf8Strings(const TArray<FString>& Items);

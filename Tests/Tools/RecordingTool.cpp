@@ -1,8 +1,8 @@
 // Stands in for AssetMerger.exe and UnrealPak.exe. A test copies it to the tool's Windows path; each call
-// leaves "<tool>.call<N>.args" (one argument a line) beside it. For a "-create=" argument it keeps a copy of
-// the response file as "<tool>.call<N>.response" and of every file the response file names, at its mount
-// path below "<tool>.call<N>.packed/", as a pak would hold them. It prints a line on each output stream and
-// exits with the number in "<tool>.exitcode", or 0.
+// leaves "<tool>.call<N>.args" (one argument a line) and "<tool>.call<N>.argv0" beside it. For a "-create="
+// argument it keeps a copy of the response file as "<tool>.call<N>.response" and of every file the response
+// file names, at its mount path below "<tool>.call<N>.packed/", as a pak would hold them. It prints a line on
+// each output stream and exits with the number in "<tool>.exitcode", or 0.
 #include "Common/WindowsDrivePath.h"
 #include <filesystem>
 #include <iconv.h>
@@ -70,6 +70,7 @@ int main(int argc, char** argv)
 	}
 	const std::string CallPrefix = Self.string() + ".call" + std::to_string(CallNumber);
 
+	std::ofstream(CallPrefix + ".argv0", std::ios::binary) << argv[0];
 	std::ofstream Args(CallPrefix + ".args", std::ios::binary);
 	for (int Index = 1; Index < argc; ++Index)
 	{
