@@ -2,6 +2,8 @@
 
 #include "CoreTypes.h"
 #include "Containers/UnrealString.h"
+#include "Misc/DateTime.h"
+#include "GenericPlatform/GenericPlatformFile.h"
 
 // The writer the file manager hands out; the stand-in only needs the byte sink of the engine's archive.
 class CORE_API FArchive
