@@ -16,7 +16,6 @@ public:
 	virtual bool Write(const uint8* Source, int64 BytesToWrite) = 0;
 	virtual bool Flush(const bool bFullFlush = false) = 0;
 	virtual bool Truncate(int64 NewSize) = 0;
-	virtual void ShrinkBuffers() {}
 	virtual int64 Size();
 };
 
