@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Misc/AssertionMacros.h"
 #include <algorithm>
 #include <initializer_list>
 #include <utility>

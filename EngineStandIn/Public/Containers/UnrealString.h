@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Misc/AssertionMacros.h"
 #include "Containers/Array.h"
 #include <cstdarg>
 #include <string>

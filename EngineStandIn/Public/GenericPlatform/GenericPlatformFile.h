@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Misc/AssertionMacros.h"
 #include "Containers/UnrealString.h"
 #include "Misc/DateTime.h"
 #include "Templates/Function.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Attribute.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/SWidget.h"
 #include <utility>
