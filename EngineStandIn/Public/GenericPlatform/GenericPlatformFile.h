@@ -92,7 +92,6 @@ public:
 		virtual ~FDirectoryVisitor() {}
 		// Returns true to go on.
 		virtual bool Visit(const TCHAR* FilenameOrDirectory, bool bIsDirectory) = 0;
-		bool IsThreadSafe() const { return DirectoryVisitorFlags == EDirectoryVisitorFlags::ThreadSafe; }
 		EDirectoryVisitorFlags DirectoryVisitorFlags;
 	};
 

@@ -31,7 +31,6 @@ public:
 		}
 		return Value;
 	}
-	const ObjectType& Get(const ObjectType& DefaultValue) const { return bIsSet ? Get() : DefaultValue; }
 	template <typename OtherType>
 	void Set(const OtherType& InNewValue)
 	{

@@ -146,7 +146,6 @@ public:
 
 	TSharedPtr<ObjectType, Mode> Pin() const { return TSharedPtr<ObjectType, Mode>(Impl.lock()); }
 	bool IsValid() const { return !Impl.expired(); }
-	void Reset() { Impl.reset(); }
 
 private:
 	friend struct StandInSharedPointer::FAccess;

@@ -19,7 +19,6 @@ public:
 		: Text(Name) {}
 
 	FString ToString() const { return Text; }
-	bool IsNone() const { return Text.IsEmpty(); }
 	bool operator==(const FName& Other) const { return Text == Other.Text; }
 	bool operator!=(const FName& Other) const { return !(Text == Other.Text); }
 
