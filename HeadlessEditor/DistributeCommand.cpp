@@ -14,7 +14,7 @@ namespace
 	{
 		if (Matches(Root))
 		{
-			return Root.ToSharedPtr();
+			return Root;
 		}
 		for (const StandIn::FChildSlot& Child : StandIn::ChildSlots(Root))
 		{

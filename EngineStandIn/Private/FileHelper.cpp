@@ -1,5 +1,6 @@
 #include "Misc/FileHelper.h"
 #include "Containers/StringConv.h"
+#include "Serialization/Archive.h"
 #include <memory>
 #include <string>
 

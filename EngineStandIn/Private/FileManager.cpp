@@ -1,7 +1,8 @@
 #include "CoreMinimal.h"
 #include "HAL/FileManager.h"
-#include "HAL/PlatformFileManager.h"
+#include "HAL/PlatformFilemanager.h"
 #include "Misc/Paths.h"
+#include "Serialization/Archive.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogFileManager, Log, All);
 
@@ -38,7 +39,7 @@ namespace
 		{
 			if (Handle && !Handle->Write((const uint8*)V, Length))
 			{
-				bError = true;
+				SetError();
 			}
 		}
 		virtual bool Close() override
@@ -47,12 +48,12 @@ namespace
 			{
 				if (!Handle->Flush())
 				{
-					bError = true;
+					SetError();
 				}
 				delete Handle;
 				Handle = nullptr;
 			}
-			return !bError;
+			return !IsError();
 		}
 
 	private:

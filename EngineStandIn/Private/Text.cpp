@@ -1,11 +1,23 @@
 #include "Internationalization/Text.h"
+#include "Internationalization/Internationalization.h"
+
+struct FText::FTextData
+{
+	FString Display;
+	// Set for localised literals only.
+	TOptional<FString> Namespace;
+	TOptional<FString> Key;
+};
 
 FText::FText()
 	: Data(MakeShared<const FTextData>()) {}
 
+FText::FText(TSharedRef<const FTextData> InData)
+	: Data(InData) {}
+
 FText FText::FromString(const FString& String)
 {
-	return FText(MakeShared<const FTextData>(FTextData{String, FString(), FString()}));
+	return FText(MakeShared<const FTextData>(FTextData{String, TOptional<FString>(), TOptional<FString>()}));
 }
 
 const FText& FText::GetEmpty()
@@ -14,25 +26,30 @@ const FText& FText::GetEmpty()
 	return Empty;
 }
 
-FText FText::StandInMakeLocalized(const TCHAR* Source, const TCHAR* Namespace, const TCHAR* Key)
+const FString& FText::ToString() const
 {
-	return FText(MakeShared<const FTextData>(FTextData{FString(Source), FString(Namespace), FString(Key)}));
+	return Data->Display;
 }
 
-FText FText::Format(const FText& Fmt, const FText& Arg0)
+bool FText::IsEmpty() const
 {
-	return FormatOrdered(Fmt, {Arg0});
+	return Data->Display.IsEmpty();
 }
 
-FText FText::Format(const FText& Fmt, const FText& Arg0, const FText& Arg1)
+FTextFormat::FTextFormat() {}
+
+FTextFormat::FTextFormat(const FText& InText)
+	: Pattern(InText.ToString()) {}
+
+FText FText::Format(FTextFormat Fmt, const FFormatOrderedArguments& InArguments)
 {
-	return FormatOrdered(Fmt, {Arg0, Arg1});
+	return Format(std::move(Fmt), FFormatOrderedArguments(InArguments));
 }
 
 // "{N}" takes the Nth argument; an index without an argument stays as written.
-FText FText::FormatOrdered(const FText& Fmt, const TArray<FText>& Args)
+FText FText::Format(FTextFormat Fmt, FFormatOrderedArguments&& InArguments)
 {
-	const FString& Pattern = Fmt.ToString();
+	const FString& Pattern = Fmt.Pattern;
 	FString Result;
 	int32 Index = 0;
 	while (Index < Pattern.Len())
@@ -46,9 +63,9 @@ FText FText::FormatOrdered(const FText& Fmt, const TArray<FText>& Args)
 				ArgIndex = ArgIndex * 10 + (Pattern[Close] - L'0');
 				++Close;
 			}
-			if (Close > Index + 1 && Close < Pattern.Len() && Pattern[Close] == L'}' && Args.IsValidIndex(ArgIndex))
+			if (Close > Index + 1 && Close < Pattern.Len() && Pattern[Close] == L'}' && InArguments.IsValidIndex(ArgIndex))
 			{
-				Result += Args[ArgIndex].ToString();
+				Result += InArguments[ArgIndex].TextValue.ToString();
 				Index = Close + 1;
 				continue;
 			}
@@ -57,4 +74,19 @@ FText FText::FormatOrdered(const FText& Fmt, const TArray<FText>& Args)
 		++Index;
 	}
 	return FromString(Result);
+}
+
+TOptional<FString> FTextInspector::GetNamespace(const FText& Text)
+{
+	return Text.Data->Namespace;
+}
+
+TOptional<FString> FTextInspector::GetKey(const FText& Text)
+{
+	return Text.Data->Key;
+}
+
+FText FInternationalization::ForUseOnlyByLocMacroAndGraphNodeTextLiterals_CreateText(const TCHAR* InTextLiteral, const TCHAR* InNamespace, const TCHAR* InKey)
+{
+	return FText(MakeShared<const FText::FTextData>(FText::FTextData{FString(InTextLiteral), FString(InNamespace), FString(InKey)}));
 }

@@ -265,16 +265,6 @@ FString FString::Right(int32 Count) const
 	return FString(Data.substr(Data.size() - (size_t)Clamped));
 }
 
-FString FString::ToUpper() const
-{
-	std::wstring Upper = Data;
-	for (TCHAR& Char : Upper)
-	{
-		Char = FoldCase(Char);
-	}
-	return FString(std::move(Upper));
-}
-
 FString FString::Join(const TArray<FString>& Items, const TCHAR* Separator)
 {
 	FString Result;

@@ -1,5 +1,5 @@
 #include "GenericPlatform/GenericPlatformFile.h"
-#include "HAL/PlatformFileManager.h"
+#include "HAL/PlatformFilemanager.h"
 #include "Misc/Paths.h"
 #include "StandIn/World.h"
 #include "StandInWorld.h"

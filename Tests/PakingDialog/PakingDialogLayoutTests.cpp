@@ -45,8 +45,8 @@ TEST_F(FPakingDialogTest, EachUseOpensItsOwnNonModalWindowOnAFreshDiscovery)
 	{
 		const StandIn::FWindowRecord& Window = *WindowRecord;
 		EXPECT_EQ(Utf8(Window.Title), "Paking Dialog");
-		EXPECT_EQ(StandIn::ToUtf8(Window.Title.GetNamespace()), "UGCPaking");
-		EXPECT_EQ(StandIn::ToUtf8(Window.Title.GetKey()), "PakingDialogTitle");
+		EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetNamespace(Window.Title).Get(FString())), "UGCPaking");
+		EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetKey(Window.Title).Get(FString())), "PakingDialogTitle");
 		EXPECT_EQ(Window.ClientSize, FVector2D(400, 400));
 		EXPECT_FALSE(Window.bSupportsMaximize);
 		EXPECT_FALSE(Window.bSupportsMinimize);
@@ -103,8 +103,8 @@ TEST_F(FPakingDialogTest, ActionButtonsAreLocalisedAndDefaultStyled)
 	{
 		const StandIn::FPaintedWidget Painted = StandIn::Paint(Expected.Button);
 		EXPECT_EQ(Utf8(Painted.Text), Expected.Caption);
-		EXPECT_EQ(StandIn::ToUtf8(Painted.Text.GetNamespace()), "SPakingDialog");
-		EXPECT_EQ(StandIn::ToUtf8(Painted.Text.GetKey()), Expected.Key);
+		EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetNamespace(Painted.Text).Get(FString())), "SPakingDialog");
+		EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetKey(Painted.Text).Get(FString())), Expected.Key);
 		EXPECT_EQ(Painted.ButtonStyle, &FCoreStyle::Get().GetWidgetStyle<FButtonStyle>("Button"));
 	}
 }
@@ -115,7 +115,7 @@ TEST_F(FPakingDialogTest, EditionCaptionIsBoldButEditableInTheDefaultColour)
 	const TSharedRef<SWidget> Caption = Child(GridCell(0, 9), 0);
 	StandIn::FPaintedWidget Painted = StandIn::Paint(Caption);
 	EXPECT_EQ(Utf8(Painted.Text), "Calverly5 Plugin");
-	EXPECT_TRUE(Painted.Text.GetKey().IsEmpty());
+	EXPECT_FALSE(FTextInspector::GetKey(Painted.Text).IsSet());
 	ASSERT_TRUE(Painted.Font.has_value());
 	EXPECT_EQ(Painted.Font->TypefaceFontName, FName("Bold"));
 	EXPECT_EQ(Painted.Font->Size, 10);

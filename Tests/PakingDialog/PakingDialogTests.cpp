@@ -159,9 +159,9 @@ TEST_F(FPakingDialogTest, EmptyListsAreReportedInsteadOfActedOn)
 
 	EXPECT_EQ(MessageBoxTexts(), (std::vector<std::string>{"No cooked plugins available.", "No cooked plugins available.", "No plugins have been added. Please add a plugin before distributing."}));
 	const std::vector<const StandIn::FMessageBoxRecord*> Boxes = StandIn::JournalRecords<StandIn::FMessageBoxRecord>();
-	EXPECT_EQ(StandIn::ToUtf8(Boxes[0]->Message.GetNamespace()), "SPakingDialog");
-	EXPECT_EQ(StandIn::ToUtf8(Boxes[0]->Message.GetKey()), "NoCookedPluginsMessage");
-	EXPECT_EQ(StandIn::ToUtf8(Boxes[2]->Message.GetKey()), "NoPluginsAddedMessage");
+	EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetNamespace(Boxes[0]->Message).Get(FString())), "SPakingDialog");
+	EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetKey(Boxes[0]->Message).Get(FString())), "NoCookedPluginsMessage");
+	EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetKey(Boxes[2]->Message).Get(FString())), "NoPluginsAddedMessage");
 	for (const StandIn::FMessageBoxRecord* Box : Boxes)
 	{
 		EXPECT_EQ(Box->Type, EAppMsgType::Ok);

@@ -1,6 +1,6 @@
 #include "CoreMinimal.h"
 #include "HAL/FileManager.h"
-#include "HAL/PlatformFileManager.h"
+#include "HAL/PlatformFilemanager.h"
 #include "Misc/FileHelper.h"
 #include "SandboxTest.h"
 

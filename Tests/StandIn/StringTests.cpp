@@ -75,3 +75,10 @@ TEST_F(FStandInPathsTest, TheProjectFolderIsReportedRelativeToTheBinariesFolder)
 	ResetWorld(World);
 	EXPECT_TRUE(FPaths::ProjectDir().Equals(TEXT("D:/Mods/Moravane/"), ESearchCase::CaseSensitive)) << "no relative form across drives";
 }
+
+TEST(StandInStrings, TextFormatPutsOrderedArgumentsWhereTheirIndexStands)
+{
+	const FText Formatted = FText::Format(FText::FromString(TEXT("{1} before {0}, {0} again, {2} left as written")), FText::FromString(TEXT("A")), FText::FromString(TEXT("B")));
+	EXPECT_TRUE(Formatted.ToString().Equals(TEXT("B before A, A again, {2} left as written"), ESearchCase::CaseSensitive));
+	EXPECT_FALSE(FTextInspector::GetKey(Formatted).IsSet()) << "a formatted text is not a localised literal";
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Misc/AssertionMacros.h"
 #include <algorithm>
 #include <initializer_list>
 #include <utility>
@@ -28,8 +29,6 @@ public:
 		check(IsValidIndex(Index));
 		return Items[(size_t)Index];
 	}
-	ElementType& Last(int32 IndexFromTheEnd = 0) { return (*this)[Num() - IndexFromTheEnd - 1]; }
-	const ElementType& Last(int32 IndexFromTheEnd = 0) const { return (*this)[Num() - IndexFromTheEnd - 1]; }
 	ElementType* GetData() { return Items.data(); }
 	const ElementType* GetData() const { return Items.data(); }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Misc/AssertionMacros.h"
 #include "Containers/Array.h"
 #include <cstdarg>
 #include <string>
@@ -99,11 +100,6 @@ public:
 		Data += Char;
 		return *this;
 	}
-	FString& AppendChar(TCHAR Char)
-	{
-		Data += Char;
-		return *this;
-	}
 	FString& Append(const FString& Other)
 	{
 		Data += Other.Data;
@@ -169,7 +165,6 @@ public:
 	FString Left(int32 Count) const;
 	FString Mid(int32 Start, int32 Count = 0x7fffffff) const;
 	FString Right(int32 Count) const;
-	FString ToUpper() const;
 
 	static FString Join(const TArray<FString>& Items, const TCHAR* Separator);
 

@@ -6,13 +6,13 @@
 
 class SWidget;
 
-DECLARE_DELEGATE_RetVal(FReply, FOnClicked)
-	DECLARE_DELEGATE_TwoParams(FOnTextCommitted, const FText&, ETextCommit::Type)
+DECLARE_DELEGATE_RetVal(FReply, FOnClicked);
+DECLARE_DELEGATE_TwoParams(FOnTextCommitted, const FText&, ETextCommit::Type);
 
-		template <typename ArgumentType>
-		class TSlateDelegates
+template <typename ArgumentType>
+class TSlateDelegates
 {
 public:
-	typedef TDelegate<TSharedRef<SWidget>(ArgumentType)> FOnGenerateWidget;
-	typedef TDelegate<void(ArgumentType, ESelectInfo::Type)> FOnSelectionChanged;
+	DECLARE_DELEGATE_RetVal_OneParam(TSharedRef<SWidget>, FOnGenerateWidget, ArgumentType);
+	DECLARE_DELEGATE_TwoParams(FOnSelectionChanged, ArgumentType, ESelectInfo::Type);
 };

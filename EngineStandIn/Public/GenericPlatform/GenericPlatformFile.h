@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Misc/AssertionMacros.h"
 #include "Containers/UnrealString.h"
 #include "Misc/DateTime.h"
 #include "Templates/Function.h"
@@ -16,7 +17,6 @@ public:
 	virtual bool Write(const uint8* Source, int64 BytesToWrite) = 0;
 	virtual bool Flush(const bool bFullFlush = false) = 0;
 	virtual bool Truncate(int64 NewSize) = 0;
-	virtual void ShrinkBuffers() {}
 	virtual int64 Size();
 };
 
@@ -92,7 +92,6 @@ public:
 		virtual ~FDirectoryVisitor() {}
 		// Returns true to go on.
 		virtual bool Visit(const TCHAR* FilenameOrDirectory, bool bIsDirectory) = 0;
-		bool IsThreadSafe() const { return DirectoryVisitorFlags == EDirectoryVisitorFlags::ThreadSafe; }
 		EDirectoryVisitorFlags DirectoryVisitorFlags;
 	};
 

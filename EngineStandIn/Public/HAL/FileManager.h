@@ -2,19 +2,10 @@
 
 #include "CoreTypes.h"
 #include "Containers/UnrealString.h"
+#include "Misc/DateTime.h"
+#include "GenericPlatform/GenericPlatformFile.h"
 
-// The writer the file manager hands out; the stand-in only needs the byte sink of the engine's archive.
-class CORE_API FArchive
-{
-public:
-	virtual ~FArchive() {}
-	virtual void Serialize(void* V, int64 Length) = 0;
-	virtual bool Close() = 0;
-	bool IsError() const { return bError; }
-
-protected:
-	bool bError = false;
-};
+class FArchive;
 
 enum EFileWrite
 {

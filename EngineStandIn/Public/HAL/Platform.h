@@ -7,18 +7,11 @@
 #define PLATFORM_WINDOWS 1
 
 typedef uint8_t uint8;
-typedef uint16_t uint16;
 typedef uint32_t uint32;
-typedef uint64_t uint64;
-typedef int8_t int8;
-typedef int16_t int16;
 typedef int32_t int32;
 typedef int64_t int64;
 typedef char ANSICHAR;
-typedef wchar_t WIDECHAR;
 typedef wchar_t TCHAR;
-typedef char UTF8CHAR;
-typedef size_t SIZE_T;
 
 #define TEXT_PASTE(x) L##x
 #define TEXT(x) TEXT_PASTE(x)
@@ -26,9 +19,7 @@ typedef size_t SIZE_T;
 #define CORE_API
 #define SLATE_API
 #define SLATECORE_API
-#define PROJECTS_API
 #define UE_NODISCARD [[nodiscard]]
-#define FORCEINLINE inline
 
 enum
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Attribute.h"
 #include "Layout/Margin.h"
 #include "SlotBase.h"
 #include "Widgets/SWidget.h"

@@ -12,8 +12,6 @@ struct FLogCategoryBase
 	}
 	bool IsSuppressed(ELogVerbosity::Type VerbosityLevel) const { return VerbosityLevel > Verbosity; }
 	const FName& GetCategoryName() const { return Name; }
-	ELogVerbosity::Type GetVerbosity() const { return Verbosity; }
-	void SetVerbosity(ELogVerbosity::Type NewVerbosity) { Verbosity = NewVerbosity; }
 
 private:
 	FName Name;

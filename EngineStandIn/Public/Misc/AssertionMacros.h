@@ -8,7 +8,13 @@ namespace StandInAssertion
 	[[noreturn]] void Fail(const char* Expression, const char* File, int Line);
 }
 
-#define check(expr) ((expr) ? (void)0 : ::StandInAssertion::Fail(#expr, __FILE__, __LINE__))
-#define checkf(expr, ...) check(expr)
-#define verify(expr) check(expr)
-#define checkNoEntry() ::StandInAssertion::Fail("checkNoEntry", __FILE__, __LINE__)
+// Statements, as the engine's are, so that a check cannot be used as a value.
+#define check(expr)                                              \
+	{                                                            \
+		if (!(expr))                                             \
+		{                                                        \
+			::StandInAssertion::Fail(#expr, __FILE__, __LINE__); \
+		}                                                        \
+	}
+#define checkf(expr, format, ...) check(expr)
+#define checkNoEntry() check(!"Enclosing block should never be called")

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Templates/Function.h"
+#include "Templates/SharedPointer.h"
 #include "Delegates/Delegate.h"
+#include <utility>
 
 // A value, or a getter that is asked again every time the value is read (bound attributes are re-read on
 // every paint).
@@ -9,18 +12,16 @@ template <typename ObjectType>
 class TAttribute
 {
 public:
-	typedef TDelegate<ObjectType()> FGetter;
+	DECLARE_DELEGATE_RetVal(ObjectType, FGetter);
 
-	TAttribute() = default;
+	TAttribute()
+		: Value(), bIsSet(false) {}
 	template <typename OtherType>
 	TAttribute(const OtherType& InInitialValue)
 		: Value(InInitialValue), bIsSet(true) {}
-	TAttribute(const FGetter& InGetter)
-		: Getter(InGetter), bIsSet(true) {}
 
-	static TAttribute Create(const FGetter& InGetter) { return TAttribute(InGetter); }
-	template <typename FunctorType>
-	static TAttribute CreateLambda(FunctorType&& Functor) { return TAttribute(FGetter::CreateLambda(std::forward<FunctorType>(Functor))); }
+	static TAttribute Create(const FGetter& InGetter) { return TAttribute(InGetter, true); }
+	static TAttribute<ObjectType> Create(TFunction<ObjectType(void)>&& InLambda) { return Create(FGetter::CreateLambda(std::move(InLambda))); }
 
 	const ObjectType& Get() const
 	{
@@ -30,8 +31,8 @@ public:
 		}
 		return Value;
 	}
-	const ObjectType& Get(const ObjectType& DefaultValue) const { return bIsSet ? Get() : DefaultValue; }
-	void Set(const ObjectType& InNewValue)
+	template <typename OtherType>
+	void Set(const OtherType& InNewValue)
 	{
 		Getter.Unbind();
 		Value = InNewValue;
@@ -41,7 +42,10 @@ public:
 	bool IsBound() const { return Getter.IsBound(); }
 
 private:
-	mutable ObjectType Value = ObjectType();
+	TAttribute(const FGetter& InGetter, bool bExplicitConstructor)
+		: Value(), bIsSet(true), Getter(InGetter) {}
+
+	mutable ObjectType Value;
+	bool bIsSet;
 	FGetter Getter;
-	bool bIsSet = false;
 };

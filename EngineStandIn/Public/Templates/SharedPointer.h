@@ -1,56 +1,62 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Misc/AssertionMacros.h"
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 // Shared pointers over std::shared_ptr: the reference-counting semantics the module relies on (shared
-// ownership, weak references, AsShared, null checks) are the same.
+// ownership, weak references, AsShared, null checks) are the same. The std pointer stays private; the
+// stand-in reaches it through StandInSharedPointer::FAccess only.
 
-namespace ESPMode
+enum class ESPMode
 {
-	enum Type
-	{
-		NotThreadSafe = 0,
-		Fast = 0,
-		ThreadSafe = 1
-	};
-}
-
-template <class ObjectType, ESPMode::Type Mode = ESPMode::Fast>
-class TSharedRef;
-template <class ObjectType, ESPMode::Type Mode = ESPMode::Fast>
-class TSharedPtr;
-template <class ObjectType, ESPMode::Type Mode = ESPMode::Fast>
-class TWeakPtr;
-
-// What MakeShareable returns; converts to either pointer kind.
-template <class ObjectType>
-struct TRawPtrProxy
-{
-	ObjectType* Object;
+	NotThreadSafe = 0,
+	Fast = 0,
+	ThreadSafe = 1
 };
 
-template <class ObjectType, ESPMode::Type Mode>
+template <class ObjectType, ESPMode Mode = ESPMode::Fast>
+class TSharedRef;
+template <class ObjectType, ESPMode Mode = ESPMode::Fast>
+class TSharedPtr;
+template <class ObjectType, ESPMode Mode = ESPMode::Fast>
+class TWeakPtr;
+template <class ObjectType, ESPMode Mode = ESPMode::Fast>
+class TSharedFromThis;
+
+namespace StandInSharedPointer
+{
+	struct FAccess;
+}
+
+namespace SharedPointerInternals
+{
+	// What MakeShareable returns; converts to either pointer kind.
+	template <class ObjectType>
+	struct FRawPtrProxy
+	{
+		ObjectType* Object;
+	};
+} // namespace SharedPointerInternals
+
+template <class ObjectType, ESPMode Mode>
 class TSharedPtr
 {
 public:
 	TSharedPtr() = default;
 	TSharedPtr(std::nullptr_t) {}
 	template <class OtherType>
-	explicit TSharedPtr(OtherType* InObject)
-		: Impl(InObject) {}
+	explicit TSharedPtr(OtherType* InObject);
 	template <class OtherType>
 	TSharedPtr(const TSharedPtr<OtherType, Mode>& Other)
 		: Impl(Other.Impl) {}
 	template <class OtherType>
 	TSharedPtr(const TSharedRef<OtherType, Mode>& Other)
 		: Impl(Other.Impl) {}
-	explicit TSharedPtr(std::shared_ptr<ObjectType> InImpl)
-		: Impl(std::move(InImpl)) {}
 	template <class OtherType>
-	TSharedPtr(const TRawPtrProxy<OtherType>& Proxy)
-		: Impl(Proxy.Object) {}
+	TSharedPtr(const SharedPointerInternals::FRawPtrProxy<OtherType>& Proxy);
 
 	ObjectType* Get() const { return Impl.get(); }
 	bool IsValid() const { return Impl != nullptr; }
@@ -67,8 +73,6 @@ public:
 	}
 	void Reset() { Impl.reset(); }
 	TSharedRef<ObjectType, Mode> ToSharedRef() const;
-	int32 GetSharedReferenceCount() const { return (int32)Impl.use_count(); }
-	bool IsUnique() const { return Impl.use_count() == 1; }
 
 	template <class OtherType>
 	bool operator==(const TSharedPtr<OtherType, Mode>& Other) const { return Impl == Other.Impl; }
@@ -77,48 +81,58 @@ public:
 	bool operator==(std::nullptr_t) const { return Impl == nullptr; }
 	bool operator!=(std::nullptr_t) const { return Impl != nullptr; }
 
+private:
+	template <class, ESPMode>
+	friend class TSharedPtr;
+	template <class, ESPMode>
+	friend class TSharedRef;
+	template <class, ESPMode>
+	friend class TWeakPtr;
+	friend struct StandInSharedPointer::FAccess;
+
+	explicit TSharedPtr(std::shared_ptr<ObjectType> InImpl)
+		: Impl(std::move(InImpl)) {}
+
 	std::shared_ptr<ObjectType> Impl;
 };
 
-template <class ObjectType, ESPMode::Type Mode>
+template <class ObjectType, ESPMode Mode>
 class TSharedRef
 {
 public:
 	template <class OtherType>
-	explicit TSharedRef(OtherType* InObject)
-		: Impl(InObject) { check(InObject != nullptr); }
+	explicit TSharedRef(OtherType* InObject);
 	template <class OtherType>
 	TSharedRef(const TSharedRef<OtherType, Mode>& Other)
 		: Impl(Other.Impl) {}
-	explicit TSharedRef(std::shared_ptr<ObjectType> InImpl)
-		: Impl(std::move(InImpl)) { check(Impl != nullptr); }
 	template <class OtherType>
-	TSharedRef(const TRawPtrProxy<OtherType>& Proxy)
-		: Impl(Proxy.Object) { check(Proxy.Object != nullptr); }
+	TSharedRef(const SharedPointerInternals::FRawPtrProxy<OtherType>& Proxy);
 
 	ObjectType& Get() const { return *Impl; }
 	ObjectType& operator*() const { return *Impl; }
 	ObjectType* operator->() const { return Impl.get(); }
-	bool IsUnique() const { return Impl.use_count() == 1; }
-	int32 GetSharedReferenceCount() const { return (int32)Impl.use_count(); }
-	TSharedPtr<ObjectType, Mode> ToSharedPtr() const { return TSharedPtr<ObjectType, Mode>(Impl); }
 
 	template <class OtherType>
 	bool operator==(const TSharedRef<OtherType, Mode>& Other) const { return Impl == Other.Impl; }
 	template <class OtherType>
 	bool operator!=(const TSharedRef<OtherType, Mode>& Other) const { return Impl != Other.Impl; }
 
+private:
+	template <class, ESPMode>
+	friend class TSharedPtr;
+	template <class, ESPMode>
+	friend class TSharedRef;
+	template <class, ESPMode>
+	friend class TWeakPtr;
+	friend struct StandInSharedPointer::FAccess;
+
+	explicit TSharedRef(std::shared_ptr<ObjectType> InImpl)
+		: Impl(std::move(InImpl)) { check(Impl != nullptr); }
+
 	std::shared_ptr<ObjectType> Impl;
 };
 
-template <class ObjectType, ESPMode::Type Mode>
-TSharedRef<ObjectType, Mode> TSharedPtr<ObjectType, Mode>::ToSharedRef() const
-{
-	check(IsValid());
-	return TSharedRef<ObjectType, Mode>(Impl);
-}
-
-template <class ObjectType, ESPMode::Type Mode>
+template <class ObjectType, ESPMode Mode>
 class TWeakPtr
 {
 public:
@@ -132,67 +146,128 @@ public:
 
 	TSharedPtr<ObjectType, Mode> Pin() const { return TSharedPtr<ObjectType, Mode>(Impl.lock()); }
 	bool IsValid() const { return !Impl.expired(); }
-	void Reset() { Impl.reset(); }
+
+private:
+	friend struct StandInSharedPointer::FAccess;
 
 	std::weak_ptr<ObjectType> Impl;
 };
 
-template <class ObjectType, ESPMode::Type Mode = ESPMode::Fast>
-class TSharedFromThis : public std::enable_shared_from_this<ObjectType>
+template <class ObjectType, ESPMode Mode>
+class TSharedFromThis
 {
 public:
 	TSharedRef<ObjectType, Mode> AsShared()
 	{
-		std::shared_ptr<ObjectType> Shared = this->weak_from_this().lock();
-		check(Shared != nullptr);
-		return TSharedRef<ObjectType, Mode>(Shared);
+		TSharedPtr<ObjectType, Mode> Shared = WeakThis.Pin();
+		check(Shared.IsValid());
+		return Shared.ToSharedRef();
 	}
 	TSharedRef<const ObjectType, Mode> AsShared() const
 	{
-		std::shared_ptr<const ObjectType> Shared = this->weak_from_this().lock();
-		check(Shared != nullptr);
-		return TSharedRef<const ObjectType, Mode>(Shared);
+		TSharedPtr<const ObjectType, Mode> Shared = WeakThis.Pin();
+		check(Shared.IsValid());
+		return Shared.ToSharedRef();
 	}
 
 protected:
-	template <class OtherType>
-	static TSharedRef<OtherType, Mode> SharedThis(OtherType* ThisPtr)
-	{
-		return TSharedRef<OtherType, Mode>(std::static_pointer_cast<OtherType>(ThisPtr->AsShared().Impl));
-	}
-	template <class OtherType>
-	static TSharedRef<const OtherType, Mode> SharedThis(const OtherType* ThisPtr)
-	{
-		return TSharedRef<const OtherType, Mode>(std::static_pointer_cast<const OtherType>(ThisPtr->AsShared().Impl));
-	}
+	TSharedFromThis() {}
+	// A copy is a different object: it must not take over the original's owner.
+	TSharedFromThis(const TSharedFromThis&) {}
+	TSharedFromThis& operator=(const TSharedFromThis&) { return *this; }
+	~TSharedFromThis() {}
+
+private:
+	friend struct StandInSharedPointer::FAccess;
+
+	// Filled in by the first shared pointer made from the raw object, as the engine's is.
+	mutable TWeakPtr<ObjectType, Mode> WeakThis;
 };
 
+namespace StandInSharedPointer
+{
+	struct FAccess
+	{
+		template <class ObjectType, ESPMode Mode>
+		static const std::shared_ptr<ObjectType>& Get(const TSharedRef<ObjectType, Mode>& Ref) { return Ref.Impl; }
+		template <class ObjectType, ESPMode Mode>
+		static const std::shared_ptr<ObjectType>& Get(const TSharedPtr<ObjectType, Mode>& Ptr) { return Ptr.Impl; }
+		template <class ObjectType, ESPMode Mode>
+		static const std::weak_ptr<ObjectType>& Get(const TWeakPtr<ObjectType, Mode>& Ptr) { return Ptr.Impl; }
+		template <class ObjectType, ESPMode Mode>
+		static TSharedRef<ObjectType, Mode> MakeRef(std::shared_ptr<ObjectType> Impl) { return TSharedRef<ObjectType, Mode>(std::move(Impl)); }
+		template <class ObjectType, ESPMode Mode>
+		static TSharedPtr<ObjectType, Mode> MakePtr(std::shared_ptr<ObjectType> Impl) { return TSharedPtr<ObjectType, Mode>(std::move(Impl)); }
+
+		template <class BaseType, ESPMode Mode, class OwnedType>
+		static void EnableSharedFromThis(const TSharedFromThis<BaseType, Mode>* Object, const std::shared_ptr<OwnedType>& Owner)
+		{
+			if (Object != nullptr && !Object->WeakThis.IsValid())
+			{
+				std::shared_ptr<BaseType> AsBase = std::const_pointer_cast<typename std::remove_const<OwnedType>::type>(Owner);
+				Object->WeakThis.Impl = AsBase;
+			}
+		}
+		// Objects that do not derive from TSharedFromThis have nothing to fill in.
+		template <class OwnedType>
+		static void EnableSharedFromThis(const void*, const std::shared_ptr<OwnedType>&) {}
+	};
+} // namespace StandInSharedPointer
+
+template <class ObjectType, ESPMode Mode>
+template <class OtherType>
+TSharedPtr<ObjectType, Mode>::TSharedPtr(OtherType* InObject)
+	: Impl(InObject)
+{
+	StandInSharedPointer::FAccess::EnableSharedFromThis(InObject, Impl);
+}
+
+template <class ObjectType, ESPMode Mode>
+template <class OtherType>
+TSharedPtr<ObjectType, Mode>::TSharedPtr(const SharedPointerInternals::FRawPtrProxy<OtherType>& Proxy)
+	: TSharedPtr(Proxy.Object)
+{
+}
+
+template <class ObjectType, ESPMode Mode>
+TSharedRef<ObjectType, Mode> TSharedPtr<ObjectType, Mode>::ToSharedRef() const
+{
+	check(IsValid());
+	return TSharedRef<ObjectType, Mode>(Impl);
+}
+
+template <class ObjectType, ESPMode Mode>
+template <class OtherType>
+TSharedRef<ObjectType, Mode>::TSharedRef(OtherType* InObject)
+	: Impl(InObject)
+{
+	check(InObject != nullptr);
+	StandInSharedPointer::FAccess::EnableSharedFromThis(InObject, Impl);
+}
+
+template <class ObjectType, ESPMode Mode>
+template <class OtherType>
+TSharedRef<ObjectType, Mode>::TSharedRef(const SharedPointerInternals::FRawPtrProxy<OtherType>& Proxy)
+	: TSharedRef(Proxy.Object)
+{
+}
+
 template <class ObjectType>
-TRawPtrProxy<ObjectType> MakeShareable(ObjectType* InObject)
+SharedPointerInternals::FRawPtrProxy<ObjectType> MakeShareable(ObjectType* InObject)
 {
-	return TRawPtrProxy<ObjectType>{InObject};
+	return SharedPointerInternals::FRawPtrProxy<ObjectType>{InObject};
 }
 
-template <class ObjectType, typename... ArgTypes>
-TSharedRef<ObjectType> MakeShared(ArgTypes&&... Args)
+template <class ObjectType, ESPMode Mode = ESPMode::Fast, typename... ArgTypes>
+TSharedRef<ObjectType, Mode> MakeShared(ArgTypes&&... Args)
 {
-	return TSharedRef<ObjectType>(std::make_shared<ObjectType>(std::forward<ArgTypes>(Args)...));
+	std::shared_ptr<ObjectType> Impl = std::make_shared<ObjectType>(std::forward<ArgTypes>(Args)...);
+	StandInSharedPointer::FAccess::EnableSharedFromThis(Impl.get(), Impl);
+	return StandInSharedPointer::FAccess::MakeRef<ObjectType, Mode>(std::move(Impl));
 }
 
-template <class ToType, class FromType, ESPMode::Type Mode>
+template <class ToType, class FromType, ESPMode Mode>
 TSharedRef<ToType, Mode> StaticCastSharedRef(const TSharedRef<FromType, Mode>& InRef)
 {
-	return TSharedRef<ToType, Mode>(std::static_pointer_cast<ToType>(InRef.Impl));
-}
-
-template <class ToType, class FromType, ESPMode::Type Mode>
-TSharedPtr<ToType, Mode> StaticCastSharedPtr(const TSharedPtr<FromType, Mode>& InPtr)
-{
-	return TSharedPtr<ToType, Mode>(std::static_pointer_cast<ToType>(InPtr.Impl));
-}
-
-template <class ToType, class FromType, ESPMode::Type Mode>
-TSharedRef<ToType, Mode> ConstCastSharedRef(const TSharedRef<FromType, Mode>& InRef)
-{
-	return TSharedRef<ToType, Mode>(std::const_pointer_cast<ToType>(InRef.Impl));
+	return StandInSharedPointer::FAccess::MakeRef<ToType, Mode>(std::static_pointer_cast<ToType>(StandInSharedPointer::FAccess::Get(InRef)));
 }

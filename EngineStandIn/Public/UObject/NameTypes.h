@@ -2,12 +2,15 @@
 
 #include "CoreTypes.h"
 #include "Containers/UnrealString.h"
+#include "UObject/UnrealNames.h"
 
 // Compares without case and keeps the spelling it was made with.
 class FName
 {
 public:
 	FName() = default;
+	// Only NAME_None is known here; it is the empty name.
+	FName(EName Ename) {}
 	FName(const TCHAR* Name)
 		: Text(Name) {}
 	FName(const ANSICHAR* Name)
@@ -16,12 +19,9 @@ public:
 		: Text(Name) {}
 
 	FString ToString() const { return Text; }
-	bool IsNone() const { return Text.IsEmpty(); }
 	bool operator==(const FName& Other) const { return Text == Other.Text; }
 	bool operator!=(const FName& Other) const { return !(Text == Other.Text); }
 
 private:
 	FString Text;
 };
-
-#define NAME_None FName()

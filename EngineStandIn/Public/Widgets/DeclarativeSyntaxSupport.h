@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Attribute.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/SWidget.h"
 #include <utility>
@@ -44,80 +45,49 @@ public:                                                        \
 	}
 
 // A value, or a getter that the widget asks again whenever it is painted.
-#define SLATE_ATTRIBUTE(AttrType, AttrName)                                                                                                                                            \
-	TAttribute<AttrType> _##AttrName;                                                                                                                                                  \
-	WidgetArgsType& AttrName(const TAttribute<AttrType>& InAttribute)                                                                                                                  \
-	{                                                                                                                                                                                  \
-		_##AttrName = InAttribute;                                                                                                                                                     \
-		return this->Me();                                                                                                                                                             \
-	}                                                                                                                                                                                  \
-	template <typename FunctorType>                                                                                                                                                    \
-	WidgetArgsType& AttrName##_Lambda(FunctorType&& InFunctor)                                                                                                                         \
-	{                                                                                                                                                                                  \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateLambda(std::forward<FunctorType>(InFunctor)));                                                 \
-		return this->Me();                                                                                                                                                             \
-	}                                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                                   \
-	WidgetArgsType& AttrName##_Raw(const UserClass* InUserObject, typename TAttribute<AttrType>::FGetter::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)   \
-	{                                                                                                                                                                                  \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateRaw(InUserObject, InFunc, Vars...));                                                           \
-		return this->Me();                                                                                                                                                             \
-	}                                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                                   \
-	WidgetArgsType& AttrName(TSharedRef<UserClass> InUserObjectRef, typename TAttribute<AttrType>::FGetter::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
-	{                                                                                                                                                                                  \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObjectRef, InFunc, Vars...));                                                         \
-		return this->Me();                                                                                                                                                             \
-	}                                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                                   \
-	WidgetArgsType& AttrName(UserClass* InUserObject, typename TAttribute<AttrType>::FGetter::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)               \
-	{                                                                                                                                                                                  \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObject, InFunc, Vars...));                                                            \
-		return this->Me();                                                                                                                                                             \
+#define SLATE_ATTRIBUTE(AttrType, AttrName)                                                                                                                                                   \
+	TAttribute<AttrType> _##AttrName;                                                                                                                                                         \
+	WidgetArgsType& AttrName(const TAttribute<AttrType>& InAttribute)                                                                                                                         \
+	{                                                                                                                                                                                         \
+		_##AttrName = InAttribute;                                                                                                                                                            \
+		return this->Me();                                                                                                                                                                    \
+	}                                                                                                                                                                                         \
+	WidgetArgsType& AttrName##_Lambda(TFunction<AttrType(void)>&& InFunctor)                                                                                                                  \
+	{                                                                                                                                                                                         \
+		_##AttrName = TAttribute<AttrType>::Create(std::forward<TFunction<AttrType(void)>>(InFunctor));                                                                                       \
+		return this->Me();                                                                                                                                                                    \
+	}                                                                                                                                                                                         \
+	template <class UserClass, typename Var1Type>                                                                                                                                             \
+	WidgetArgsType& AttrName(UserClass* InUserObject, typename TAttribute<AttrType>::FGetter::template TSPMethodDelegate_OneVar_Const<UserClass, Var1Type>::FMethodPtr InFunc, Var1Type Var1) \
+	{                                                                                                                                                                                         \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObject, InFunc, Var1));                                                                      \
+		return this->Me();                                                                                                                                                                    \
 	}
 
-#define SLATE_EVENT(DelegateName, EventName)                                                                                                                           \
-	DelegateName _##EventName;                                                                                                                                         \
-	WidgetArgsType& EventName(const DelegateName& InDelegate)                                                                                                          \
-	{                                                                                                                                                                  \
-		_##EventName = InDelegate;                                                                                                                                     \
-		return this->Me();                                                                                                                                             \
-	}                                                                                                                                                                  \
-	template <typename FunctorType, typename... VarTypes>                                                                                                              \
-	WidgetArgsType& EventName##_Lambda(FunctorType&& InFunctor, VarTypes... Vars)                                                                                      \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateLambda(std::forward<FunctorType>(InFunctor), Vars...);                                                                      \
-		return this->Me();                                                                                                                                             \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName##_Raw(UserClass* InUserObject, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)              \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateRaw(InUserObject, InFunc, Vars...);                                                                                         \
-		return this->Me();                                                                                                                                             \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName(TSharedRef<UserClass> InUserObjectRef, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)      \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateSP(InUserObjectRef, InFunc, Vars...);                                                                                       \
-		return this->Me();                                                                                                                                             \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName(TSharedRef<UserClass> InUserObjectRef, typename DelegateName::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateSP(InUserObjectRef, InFunc, Vars...);                                                                                       \
-		return this->Me();                                                                                                                                             \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName(UserClass* InUserObject, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)                    \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateSP(InUserObject, InFunc, Vars...);                                                                                          \
-		return this->Me();                                                                                                                                             \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName(UserClass* InUserObject, typename DelegateName::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)               \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateSP(InUserObject, InFunc, Vars...);                                                                                          \
-		return this->Me();                                                                                                                                             \
+#define SLATE_EVENT(DelegateName, EventName)                                                                                                                            \
+	DelegateName _##EventName;                                                                                                                                          \
+	WidgetArgsType& EventName(const DelegateName& InDelegate)                                                                                                           \
+	{                                                                                                                                                                   \
+		_##EventName = InDelegate;                                                                                                                                      \
+		return *this;                                                                                                                                                   \
+	}                                                                                                                                                                   \
+	template <typename FunctorType, typename... VarTypes>                                                                                                               \
+	WidgetArgsType& EventName##_Lambda(FunctorType&& InFunctor, VarTypes... Vars)                                                                                       \
+	{                                                                                                                                                                   \
+		_##EventName = DelegateName::CreateLambda(std::forward<FunctorType>(InFunctor), Vars...);                                                                       \
+		return this->Me();                                                                                                                                              \
+	}                                                                                                                                                                   \
+	template <class UserClass>                                                                                                                                          \
+	WidgetArgsType& EventName(UserClass* InUserObject, typename DelegateName::template TSPMethodDelegate<UserClass>::FMethodPtr InFunc)                                 \
+	{                                                                                                                                                                   \
+		_##EventName = DelegateName::CreateSP(InUserObject, InFunc);                                                                                                    \
+		return *this;                                                                                                                                                   \
+	}                                                                                                                                                                   \
+	template <class UserClass, typename Var1Type>                                                                                                                       \
+	WidgetArgsType& EventName(UserClass* InUserObject, typename DelegateName::template TSPMethodDelegate_OneVar<UserClass, Var1Type>::FMethodPtr InFunc, Var1Type Var1) \
+	{                                                                                                                                                                   \
+		_##EventName = DelegateName::CreateSP(InUserObject, InFunc, Var1);                                                                                              \
+		return *this;                                                                                                                                                   \
 	}
 
 // Content given with .SlotName()[ Widget ]; SNullWidget until then.

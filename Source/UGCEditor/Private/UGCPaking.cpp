@@ -3,8 +3,9 @@
 #include "SPakingDialog.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "GenericPlatform/GenericPlatformFile.h"
 #include "HAL/FileManager.h"
-#include "HAL/PlatformFileManager.h"
+#include "HAL/PlatformFilemanager.h"
 #include "HAL/PlatformProcess.h"
 #include "Misc/FileHelper.h"
 #include "Misc/MessageDialog.h"

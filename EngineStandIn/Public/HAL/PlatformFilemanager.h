@@ -1,7 +1,8 @@
 #pragma once
 
 #include "CoreTypes.h"
-#include "GenericPlatform/GenericPlatformFile.h"
+
+class IPlatformFile;
 
 class CORE_API FPlatformFileManager
 {

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "CoreTypes.h"
+#include "Misc/AssertionMacros.h"
+#include "Delegates/DelegateInstanceInterface.h"
+#include "Delegates/DelegateInstancesImpl.h"
+#include "Templates/SharedPointer.h"
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+// Single-cast delegate. The instance is never changed after binding, so copies may share it.
+template <typename WrappedRetValType, typename... ParamTypes>
+class TBaseDelegate
+{
+public:
+	typedef WrappedRetValType RetValType;
+	typedef RetValType TFuncType(ParamTypes...);
+
+	// The method-pointer types the Slate argument macros name when they bind.
+	template <typename UserClass>
+	struct TSPMethodDelegate : TBaseSPMethodDelegateInstance<false, UserClass, ESPMode::Fast, TFuncType>
+	{
+	};
+	template <typename UserClass, typename Var1Type>
+	struct TSPMethodDelegate_OneVar : TBaseSPMethodDelegateInstance<false, UserClass, ESPMode::Fast, TFuncType, Var1Type>
+	{
+	};
+	template <typename UserClass, typename Var1Type>
+	struct TSPMethodDelegate_OneVar_Const : TBaseSPMethodDelegateInstance<true, UserClass, ESPMode::Fast, TFuncType, Var1Type>
+	{
+	};
+
+	template <typename FunctorType, typename... VarTypes>
+	UE_NODISCARD static TBaseDelegate<RetValType, ParamTypes...> CreateLambda(FunctorType&& InFunctor, VarTypes... Vars)
+	{
+		typedef TBaseFunctorDelegateInstance<TFuncType, typename std::decay<FunctorType>::type, VarTypes...> FInstance;
+		return TBaseDelegate(std::make_shared<FInstance>(std::forward<FunctorType>(InFunctor), Vars...));
+	}
+
+	template <typename UserClass, typename... VarTypes>
+	UE_NODISCARD static TBaseDelegate<RetValType, ParamTypes...> CreateSP(const TSharedRef<UserClass, ESPMode::Fast>& InUserObjectRef, typename TMemFunPtrType<false, UserClass, RetValType(ParamTypes..., VarTypes...)>::Type InFunc, VarTypes... Vars)
+	{
+		static_assert(!std::is_const<UserClass>::value, "Attempting to bind a delegate with a const object pointer and non-const member function.");
+		typedef TBaseSPMethodDelegateInstance<false, UserClass, ESPMode::Fast, TFuncType, VarTypes...> FInstance;
+		return TBaseDelegate(std::make_shared<FInstance>(InUserObjectRef, InFunc, Vars...));
+	}
+	template <typename UserClass, typename... VarTypes>
+	UE_NODISCARD static TBaseDelegate<RetValType, ParamTypes...> CreateSP(const TSharedRef<UserClass, ESPMode::Fast>& InUserObjectRef, typename TMemFunPtrType<true, UserClass, RetValType(ParamTypes..., VarTypes...)>::Type InFunc, VarTypes... Vars)
+	{
+		typedef TBaseSPMethodDelegateInstance<true, const UserClass, ESPMode::Fast, TFuncType, VarTypes...> FInstance;
+		return TBaseDelegate(std::make_shared<FInstance>(InUserObjectRef, InFunc, Vars...));
+	}
+	template <typename UserClass, typename... VarTypes>
+	UE_NODISCARD static TBaseDelegate<RetValType, ParamTypes...> CreateSP(UserClass* InUserObject, typename TMemFunPtrType<false, UserClass, RetValType(ParamTypes..., VarTypes...)>::Type InFunc, VarTypes... Vars)
+	{
+		static_assert(!std::is_const<UserClass>::value, "Attempting to bind a delegate with a const object pointer and non-const member function.");
+		return CreateSP(StaticCastSharedRef<UserClass>(InUserObject->AsShared()), InFunc, Vars...);
+	}
+	template <typename UserClass, typename... VarTypes>
+	UE_NODISCARD static TBaseDelegate<RetValType, ParamTypes...> CreateSP(const UserClass* InUserObject, typename TMemFunPtrType<true, UserClass, RetValType(ParamTypes..., VarTypes...)>::Type InFunc, VarTypes... Vars)
+	{
+		return CreateSP(StaticCastSharedRef<const UserClass>(InUserObject->AsShared()), InFunc, Vars...);
+	}
+
+	TBaseDelegate() = default;
+
+	bool IsBound() const { return Instance != nullptr && Instance->IsSafeToExecute(); }
+	void Unbind() { Instance.reset(); }
+
+	RetValType Execute(ParamTypes... Params) const
+	{
+		check(IsBound());
+		return Instance->Execute(std::forward<ParamTypes>(Params)...);
+	}
+
+	template <typename R = RetValType>
+	typename std::enable_if<std::is_void<R>::value, bool>::type ExecuteIfBound(ParamTypes... Params) const
+	{
+		if (!IsBound())
+		{
+			return false;
+		}
+		Instance->Execute(std::forward<ParamTypes>(Params)...);
+		return true;
+	}
+
+private:
+	explicit TBaseDelegate(std::shared_ptr<const IBaseDelegateInstance<TFuncType>> InInstance)
+		: Instance(std::move(InInstance))
+	{
+	}
+
+	std::shared_ptr<const IBaseDelegateInstance<TFuncType>> Instance;
+};

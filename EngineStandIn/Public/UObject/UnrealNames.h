@@ -1,0 +1,8 @@
+#pragma once
+
+#include "CoreTypes.h"
+
+enum EName
+{
+	NAME_None = 0,
+};
