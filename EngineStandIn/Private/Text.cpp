@@ -1,5 +1,6 @@
 #include "Internationalization/Text.h"
 #include "Internationalization/Internationalization.h"
+#include "StandIn/World.h"
 
 struct FText::FTextData
 {
@@ -88,5 +89,8 @@ TOptional<FString> FTextInspector::GetKey(const FText& Text)
 
 FText FInternationalization::ForUseOnlyByLocMacroAndGraphNodeTextLiterals_CreateText(const TCHAR* InTextLiteral, const TCHAR* InNamespace, const TCHAR* InKey)
 {
-	return FText(MakeShared<const FText::FTextData>(FText::FTextData{FString(InTextLiteral), FString(InNamespace), FString(InKey)}));
+	const auto& Translations = StandIn::GetWorld().Translations;
+	const auto Translation = Translations.find({StandIn::ToUtf8(InNamespace), StandIn::ToUtf8(InKey)});
+	const FString Display = Translation != Translations.end() ? StandIn::FromUtf8(Translation->second) : FString(InTextLiteral);
+	return FText(MakeShared<const FText::FTextData>(FText::FTextData{Display, FString(InNamespace), FString(InKey)}));
 }

@@ -4,8 +4,6 @@
 // received it, and where those runs stand among the run's log lines, message boxes and deletions.
 namespace
 {
-	const std::string Password = "-password=n8nOz27vGPuKaGmSaWHGOKxG8pKHBJwJq13TcoKBzDPhYD5nlo";
-
 	std::vector<std::string> ChildCommandLines()
 	{
 		std::vector<std::string> Lines;
@@ -43,10 +41,6 @@ namespace
 		return "\"cmd.exe\" cmd.exe /C mklink /d \"C:/pellow/Moravane/Plugins/DLC/" + Plugin + "\" \"" + LaunchDir + "Moravane/Plugins/" + Plugin + "/Saved/Cooked/WindowsNoEditor/Moravane/Plugins/" + Plugin + "\"";
 	}
 
-	std::string RegistryOf(const std::string& Plugin)
-	{
-		return "C:/pellow/Moravane/Plugins/DLC/" + Plugin + "/Content/AssetRegistry.bin";
-	}
 }
 
 TEST_F(FDistributionTest, EveryChildGetsTheCommandLineTheModuleWrote)
@@ -61,7 +55,7 @@ TEST_F(FDistributionTest, EveryChildGetsTheCommandLineTheModuleWrote)
 									   LinkCommandLine("C:/Work/", "Alpha"),
 									   LinkCommandLine("C:/Work/", "Beta"),
 									   LinkCommandLine("C:/Work/", "Gamma"),
-									   "\"C:/Work/PellowTools/AssetMerger.exe\" " + RegistryOf("Alpha") + " " + RegistryOf("Gamma") + " " + RegistryOf("Alpha") + " " + Password,
+									   "\"C:/Work/PellowTools/AssetMerger.exe\" " + StagedRegistryOf("Alpha") + " " + StagedRegistryOf("Gamma") + " " + StagedRegistryOf("Alpha") + " " + MergerPassword,
 									   "\"C:/Work/Engine/Binaries/Win64/UnrealPak.exe\" \"C:/Work/Moravane-WindowsNoEditor-Alpha.pak\" -create=C:/pellow/cooking.txt -compress",
 								   }));
 	EXPECT_EQ(SystemCommands(), (std::vector<std::string>{"cmd.exe /c rmdir /s /q \"C:/pellow/\""}));

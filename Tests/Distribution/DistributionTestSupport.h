@@ -45,7 +45,8 @@ protected:
 		return Result;
 	}
 
-	void Distribute(const std::vector<FPakingPluginEntry>& Entries, bool bCalverly5Plugin)
+	// The pipeline as the dialog leaves it after a run.
+	TSharedRef<FUGCPaking> Distribute(const std::vector<FPakingPluginEntry>& Entries, bool bCalverly5Plugin)
 	{
 		TSharedRef<FUGCPaking> Paking = MakeShared<FUGCPaking>();
 		for (const FPakingPluginEntry& Plugin : Entries)
@@ -54,9 +55,44 @@ protected:
 		}
 		Paking->bCalverly5Plugin = bCalverly5Plugin;
 		Paking->Distribute();
-		EXPECT_EQ(Paking->Plugins.Num(), 0) << "a run leaves no plugins behind";
+		return Paking;
 	}
 };
+
+// The line the response file holds for a staged file, given below the staging root.
+inline std::string ResponseLine(const std::string& BelowStagingRoot)
+{
+	return "\"C:/pellow/" + BelowStagingRoot + "\" \"..\\..\\..\\" + BelowStagingRoot + "\"";
+}
+
+const std::string MergerPassword = "-password=n8nOz27vGPuKaGmSaWHGOKxG8pKHBJwJq13TcoKBzDPhYD5nlo";
+
+// An original plugin's registry, as the run names it through the plugin's link.
+inline std::string StagedRegistryOf(const std::string& Plugin)
+{
+	return "C:/pellow/Moravane/Plugins/DLC/" + Plugin + "/Content/AssetRegistry.bin";
+}
+
+// The response lines of files below one plugin's link, given below the link.
+inline std::vector<std::string> StagedLinesOf(const std::string& Plugin, const std::vector<std::string>& Files)
+{
+	std::vector<std::string> Lines;
+	for (const std::string& File : Files)
+	{
+		Lines.push_back(ResponseLine("Moravane/Plugins/DLC/" + Plugin + "/" + File));
+	}
+	return Lines;
+}
+
+inline std::vector<std::string> Concatenated(std::initializer_list<std::vector<std::string>> Groups)
+{
+	std::vector<std::string> All;
+	for (const std::vector<std::string>& Group : Groups)
+	{
+		All.insert(All.end(), Group.begin(), Group.end());
+	}
+	return All;
+}
 
 // Fills "{P}" (the plugin) and "{F}" (the run's first plugin) into a descriptor written out in a test.
 inline std::string Fill(std::string Template, const std::string& PluginName, const std::string& FirstPluginName = "")
@@ -140,10 +176,4 @@ inline std::string FillUgc(const std::string& PluginName, const std::string& Fir
 	std::string Template = UgcTemplate;
 	Template.replace(Template.find("{D}"), 3, Dependencies);
 	return Fill(Template, PluginName, FirstPluginName);
-}
-
-// The line the response file holds for a staged file, given below the staging root.
-inline std::string ResponseLine(const std::string& BelowStagingRoot)
-{
-	return "\"C:/pellow/" + BelowStagingRoot + "\" \"..\\..\\..\\" + BelowStagingRoot + "\"";
 }

@@ -158,6 +158,22 @@ std::vector<std::string> FSandboxTest::MessageBoxTexts() const
 	return Texts;
 }
 
+void PrintTo(const FString& String, std::ostream* Stream)
+{
+	*Stream << '"' << StandIn::ToUtf8(String) << '"';
+}
+
+void PrintTo(const FText& Text, std::ostream* Stream)
+{
+	PrintTo(Text.ToString(), Stream);
+	const TOptional<FString> Namespace = FTextInspector::GetNamespace(Text);
+	const TOptional<FString> Key = FTextInspector::GetKey(Text);
+	if (Namespace.IsSet() && Key.IsSet())
+	{
+		*Stream << " (" << StandIn::ToUtf8(Namespace.GetValue()) << ", " << StandIn::ToUtf8(Key.GetValue()) << ')';
+	}
+}
+
 std::vector<std::string> SplitLines(const std::string& Text)
 {
 	std::vector<std::string> Lines;

@@ -11,8 +11,14 @@
 #include "StandIn/World.h"
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 #include <vector>
+
+// How GoogleTest shows engine strings in a failure: as text, not as the bytes of wide characters. A
+// localised text shows its namespace and key too.
+void PrintTo(const FString& String, std::ostream* Stream);
+void PrintTo(const FText& Text, std::ostream* Stream);
 
 // A fresh Windows world in a temporary folder for every test; paths are given in Windows form.
 class FSandboxTest : public ::testing::Test

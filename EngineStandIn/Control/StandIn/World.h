@@ -2,7 +2,9 @@
 
 // World set-up: the Windows world the stand-in engine runs in. The module never includes this header.
 #include "CoreMinimal.h"
+#include <map>
 #include <string>
+#include <utility>
 
 namespace StandIn
 {
@@ -15,6 +17,9 @@ namespace StandIn
 		// The engine binaries folder, which is also the editor's current directory.
 		FString BaseDir = TEXT("C:/Work/Engine/Binaries/Win64/");
 		FString ProjectFilePath = TEXT("C:/Work/Moravane/Moravane.uproject");
+		// The active culture's localisation table, by namespace and key (UTF-8): a localised literal shows
+		// its translation where there is one and its source text otherwise, as the editor's does.
+		std::map<std::pair<std::string, std::string>, std::string> Translations;
 	};
 
 	// Starts a fresh world: drive C: present, the journal emptied, the physical layer on top of the
