@@ -18,9 +18,8 @@ public:
 	virtual int32 Num() const = 0;
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) = 0;
 	virtual TSharedRef<const SWidget> GetChildAt(int32 Index) const = 0;
-	SWidget& GetOwner() const { return *Owner; }
 
-private:
+protected:
 	friend struct FStandInSlateAccess;
 	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const = 0;
 
@@ -30,8 +29,8 @@ private:
 class SLATECORE_API FNoChildren : public FChildren
 {
 public:
-	explicit FNoChildren(SWidget* InOwner)
-		: FChildren(InOwner) {}
+	FNoChildren()
+		: FChildren(nullptr) {}
 
 	virtual int32 Num() const override { return 0; }
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) override;

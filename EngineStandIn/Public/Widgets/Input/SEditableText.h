@@ -22,9 +22,6 @@ public:
 	SLATE_END_ARGS()
 	// clang-format on
 
-	SEditableText()
-		: NoChildren(this) {}
-
 	void Construct(const FArguments& InArgs);
 	virtual FChildren* GetChildren() override { return &NoChildren; }
 
