@@ -7,6 +7,11 @@
 #include <memory>
 #include <vector>
 
+namespace StandIn
+{
+	class FSlotInspector;
+}
+
 // The children of one widget, each in a slot of the widget's own kind.
 class SLATECORE_API FChildren
 {
@@ -20,7 +25,7 @@ public:
 	virtual TSharedRef<const SWidget> GetChildAt(int32 Index) const = 0;
 
 protected:
-	friend struct FStandInSlateAccess;
+	friend class StandIn::FSlotInspector;
 	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const = 0;
 
 	SWidget* Owner;
