@@ -1,8 +1,8 @@
 #pragma once
 
 // Inspectors: for each kind of widget and of slot, the one place that reads its private state (as the
-// friend its class names) and takes the input a user gives it. A new kind is one file beside this one
-// and one line in Registry.cpp.
+// friend its class names) and takes the input a user gives it. A new kind is one file beside this one,
+// registered in Registry.cpp.
 #include "CoreMinimal.h"
 #include "Input/Reply.h"
 #include "Layout/Children.h"
