@@ -21,8 +21,6 @@ namespace
 	class SNullWidgetContent : public SWidget
 	{
 	public:
-		SNullWidgetContent()
-			: NoChildren(this) {}
 		virtual FChildren* GetChildren() override { return &NoChildren; }
 
 	private:
@@ -60,6 +58,22 @@ const FSlotBase& FNoChildren::GetSlotAt(int32 ChildIndex) const
 void SBoxPanel::ClearChildren()
 {
 	Children.Empty();
+}
+
+void SHorizontalBox::Construct(const FArguments& InArgs)
+{
+	for (FSlot* Slot : InArgs.Slots)
+	{
+		Children.Add(Slot);
+	}
+}
+
+void SVerticalBox::Construct(const FArguments& InArgs)
+{
+	for (FSlot* Slot : InArgs.Slots)
+	{
+		Children.Add(Slot);
+	}
 }
 
 void SWindow::Construct(const FArguments& InArgs)

@@ -61,6 +61,7 @@ void SCheckBox::ToggleCheckedState()
 void SComboButton::Construct(const FArguments& InArgs)
 {
 	ChildSlot[InArgs._ButtonContent.Widget];
+	MenuContent = InArgs._MenuContent.Widget;
 }
 
 void SEditableText::Construct(const FArguments& InArgs)

@@ -1,5 +1,6 @@
 #include "PakingDialogTest.h"
 #include "SPakingDialog.h"
+#include <algorithm>
 
 namespace
 {
@@ -180,4 +181,65 @@ TEST_F(FPakingDialogTest, WithoutAPipelineDistributeAndResetDoNothing)
 	EXPECT_TRUE(MessageBoxTexts().empty());
 	EXPECT_TRUE(LogTempLines(Mark).empty());
 	EXPECT_EQ(StandIn::ChildSlots(EntriesBox()).size(), 2u);
+}
+
+TEST_F(FPakingDialogTest, UndeterminedOriginalBoxUnmarksAMarkedEntry)
+{
+	CookPlugin("Alpha");
+	OpenDialog();
+	AddEntry("Alpha", true);
+
+	size_t Mark = LogMark();
+	StandIn::ChangeCheckState(OriginalCheckBox(0), ECheckBoxState::Undetermined);
+	EXPECT_EQ(LogTempLines(Mark), (std::vector<std::string>{"LogTemp: Plugin at index 0 unmarked as original"}));
+
+	Mark = LogMark();
+	StandIn::ClickButton(DistributeButton());
+	const std::vector<std::string> Lines = LogTempLines(Mark);
+	EXPECT_NE(std::find(Lines.begin(), Lines.end(), "LogTemp: File AssetRegistry for not your original plugin is generated"), Lines.end());
+}
+
+TEST_F(FPakingDialogTest, UndeterminedOriginalBoxLeavesAnUnmarkedEntryUntouched)
+{
+	CookPlugin("Alpha");
+	OpenDialog();
+	AddEntry("Alpha");
+
+	const size_t Mark = LogMark();
+	StandIn::ChangeCheckState(OriginalCheckBox(0), ECheckBoxState::Undetermined);
+	EXPECT_TRUE(LogTempLines(Mark).empty());
+}
+
+TEST_F(FPakingDialogTest, UndeterminedEditionBoxMakesTheRunAPlainDLC)
+{
+	CookPlugin("Alpha");
+	OpenDialog();
+	StandIn::ClickCheckBox(EditionCheckBox());
+	AddEntry("Alpha", true);
+
+	size_t Mark = LogMark();
+	StandIn::ChangeCheckState(EditionCheckBox(), ECheckBoxState::Undetermined);
+	EXPECT_EQ(LogTempLines(Mark), (std::vector<std::string>{"LogTemp: Calverly5 checkbox is unchecked"}));
+
+	Mark = LogMark();
+	StandIn::ClickButton(DistributeButton());
+	const std::vector<std::string> Lines = LogTempLines(Mark);
+	EXPECT_NE(std::find(Lines.begin(), Lines.end(), "LogTemp: DLC file Alpha.dlc is generated"), Lines.end());
+	EXPECT_EQ(std::find(Lines.begin(), Lines.end(), "LogTemp: UGC file Alpha.ugc is generated"), Lines.end());
+}
+
+TEST_F(FPakingDialogTest, NullSelectionInAComboKeepsTheEntrysChoice)
+{
+	CookPlugin("Alpha");
+	CookPlugin("Beta");
+	OpenDialog();
+	AddEntry("Beta");
+
+	const size_t Mark = LogMark();
+	StandIn::ClearComboSelection(Combo(0));
+	EXPECT_TRUE(LogTempLines(Mark).empty());
+	EXPECT_EQ(Shown(ComboFace(0)), "Beta");
+
+	StandIn::ClickButton(DistributeButton());
+	EXPECT_EQ(MessageBoxTexts(), (std::vector<std::string>{"Your pak is saved here: C:/Work/Moravane-WindowsNoEditor-Beta.pak"}));
 }

@@ -59,6 +59,43 @@ TEST_F(FSandboxTest, ComboBoxListsItsOptionsAsTheyAreWhenItOpens)
 	EXPECT_EQ(Selections, (std::vector<std::pair<std::string, ESelectInfo::Type>>{{"Two", ESelectInfo::OnMouseClick}, {"One", ESelectInfo::OnMouseClick}}));
 }
 
+TEST_F(FSandboxTest, CheckBoxReportsEveryStateItIsChangedTo)
+{
+	std::vector<ECheckBoxState> Events;
+	const auto Record = [&Events](ECheckBoxState State) {
+		Events.push_back(State);
+	};
+	const TSharedRef<SWidget> Free = SNew(SCheckBox).OnCheckStateChanged_Lambda(Record);
+
+	StandIn::ChangeCheckState(Free, ECheckBoxState::Undetermined);
+	EXPECT_EQ(StandIn::Paint(Free).CheckState, ECheckBoxState::Undetermined);
+	// From undetermined a click unchecks, as from checked.
+	StandIn::ClickCheckBox(Free);
+	EXPECT_EQ(StandIn::Paint(Free).CheckState, ECheckBoxState::Unchecked);
+	EXPECT_EQ(Events, (std::vector<ECheckBoxState>{ECheckBoxState::Undetermined, ECheckBoxState::Unchecked}));
+}
+
+TEST_F(FSandboxTest, ClearedComboSelectionIsReportedAsANullOptionOnlyWhenThereWasOne)
+{
+	TArray<TSharedPtr<FString>> Options = {MakeShareable(new FString(TEXT("One")))};
+	std::vector<std::pair<std::string, ESelectInfo::Type>> Selections;
+	const auto MakeRow = [](TSharedPtr<FString> Option) -> TSharedRef<SWidget> {
+		return SNew(SEditableText).Text(FText::FromString(*Option));
+	};
+	const auto RecordSelection = [&Selections](TSharedPtr<FString> Option, ESelectInfo::Type Info) {
+		Selections.emplace_back(Option.IsValid() ? StandIn::ToUtf8(*Option) : "null", Info);
+	};
+	const TSharedRef<SWidget> Combo = SNew(SComboBox<TSharedPtr<FString>>).OptionsSource(&Options).OnGenerateWidget_Lambda(MakeRow).OnSelectionChanged_Lambda(RecordSelection);
+
+	StandIn::ClearComboSelection(Combo);
+	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, 0));
+	StandIn::ClearComboSelection(Combo);
+	StandIn::ClearComboSelection(Combo);
+	// Once cleared, the same option counts as a new choice.
+	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, 0));
+	EXPECT_EQ(Selections, (std::vector<std::pair<std::string, ESelectInfo::Type>>{{"One", ESelectInfo::OnMouseClick}, {"null", ESelectInfo::Direct}, {"One", ESelectInfo::OnMouseClick}}));
+}
+
 TEST_F(FSandboxTest, BoxSlotsStretchByDefaultAndClearTogether)
 {
 	TSharedPtr<SVerticalBox> Exposed;

@@ -4,6 +4,7 @@
 // program when the widget is not of the kind the input is meant for. The module never includes this header.
 #include "CoreMinimal.h"
 #include "Input/Reply.h"
+#include "Styling/SlateTypes.h"
 #include "Types/SlateEnums.h"
 #include "Widgets/SWidget.h"
 #include <vector>
@@ -11,14 +12,23 @@
 namespace StandIn
 {
 	FReply ClickButton(const TSharedRef<SWidget>& Button);
+
 	// A click on the box: checked or undetermined becomes unchecked, unchecked becomes checked.
 	void ClickCheckBox(const TSharedRef<SWidget>& CheckBox);
+	// The box changes to the given state, undetermined included, and reports it as a click's change is
+	// reported; a box whose state is not bound keeps it.
+	void ChangeCheckState(const TSharedRef<SWidget>& CheckBox, ECheckBoxState NewState);
+
 	// Opens a combo box's list: the row widgets its OnGenerateWidget makes, one per option.
 	std::vector<TSharedRef<SWidget>> OpenComboBox(const TSharedRef<SWidget>& ComboBox);
 	// Opens the list and clicks an option (selection kind OnMouseClick), by index or by the text its row
 	// shows; false when there is no such option.
 	bool ChooseComboOption(const TSharedRef<SWidget>& ComboBox, int32 OptionIndex);
 	bool ChooseComboOption(const TSharedRef<SWidget>& ComboBox, const FString& ShownRowText);
+	// The list's selection is cleared, as SComboBox::ClearSelection does: the combo box reports a null
+	// option (selection kind Direct) when an option was selected, and nothing otherwise.
+	void ClearComboSelection(const TSharedRef<SWidget>& ComboBox);
+
 	// Replaces the contents of an editable text or text box as a user's typing would, then commits them;
 	// false, with nothing changed, when the text is read-only.
 	bool CommitText(const TSharedRef<SWidget>& TextWidget, const FString& Text, ETextCommit::Type CommitType = ETextCommit::OnEnter);

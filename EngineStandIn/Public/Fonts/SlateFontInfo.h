@@ -2,12 +2,9 @@
 
 #include "CoreMinimal.h"
 
+// The stand-in draws no outlines; the settings are only passed along with a font.
 struct FFontOutlineSettings
 {
-	int32 OutlineSize;
-
-	FFontOutlineSettings()
-		: OutlineSize(0) {}
 };
 
 // A font of the style's composite font: the typeface within it and the size in points.

@@ -8,6 +8,11 @@
 #include <memory>
 #include <vector>
 
+namespace StandIn
+{
+	class FSlotInspector;
+}
+
 // The children of one widget, each in a slot of the widget's own kind.
 class SLATECORE_API FChildren
 {
@@ -19,10 +24,9 @@ public:
 	virtual int32 Num() const = 0;
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) = 0;
 	virtual TSharedRef<const SWidget> GetChildAt(int32 Index) const = 0;
-	SWidget& GetOwner() const { return *Owner; }
 
-private:
-	friend struct FStandInSlateAccess;
+protected:
+	friend class StandIn::FSlotInspector;
 	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const = 0;
 
 	SWidget* Owner;
@@ -31,8 +35,8 @@ private:
 class SLATECORE_API FNoChildren : public FChildren
 {
 public:
-	explicit FNoChildren(SWidget* InOwner)
-		: FChildren(InOwner) {}
+	FNoChildren()
+		: FChildren(nullptr) {}
 
 	virtual int32 Num() const override { return 0; }
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) override;

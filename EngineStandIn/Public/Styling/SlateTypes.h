@@ -14,6 +14,5 @@ enum class ECheckBoxState : uint8
 struct SLATECORE_API FButtonStyle : public FSlateWidgetStyle
 {
 	static const FName TypeName;
-	virtual const FName GetTypeName() const override { return TypeName; }
 	static const FButtonStyle& GetDefault();
 };

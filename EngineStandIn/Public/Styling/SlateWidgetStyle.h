@@ -5,5 +5,4 @@
 struct SLATECORE_API FSlateWidgetStyle
 {
 	virtual ~FSlateWidgetStyle() {}
-	virtual const FName GetTypeName() const = 0;
 };

@@ -14,7 +14,6 @@ public:
 	virtual FChildren* GetChildren() = 0;
 
 	// The class name as written at SNew.
-	FName GetType() const { return TypeOfWidget; }
 	FString GetTypeAsString() const { return TypeOfWidget.ToString(); }
 
 	void SetDebugInfo(const ANSICHAR* InType, const ANSICHAR* InFile, int32 OnLine, size_t InAllocSize);

@@ -4,6 +4,11 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
+namespace StandIn
+{
+	class FWindowInspector;
+}
+
 // A top-level window. It shows nothing until it is handed to FSlateApplication::AddWindow.
 class SLATECORE_API SWindow : public SCompoundWidget
 {
@@ -22,7 +27,7 @@ public:
 	void SetContent(TSharedRef<SWidget> InContent);
 
 private:
-	friend struct FStandInSlateAccess;
+	friend class StandIn::FWindowInspector;
 
 	TAttribute<FText> Title;
 	FVector2D InitialDesiredSize;

@@ -8,6 +8,11 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/Layout/SBorder.h"
 
+namespace StandIn
+{
+	class FButtonInspector;
+}
+
 class SLATE_API SButton : public SBorder
 {
 public:
@@ -24,11 +29,12 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
-private:
-	friend struct FStandInSlateAccess;
-
+protected:
 	// What a click does, once the mouse button is released over the button.
 	FReply ExecuteOnClick();
+
+private:
+	friend class StandIn::FButtonInspector;
 
 	const FButtonStyle* Style = nullptr;
 	TAttribute<FText> Text;

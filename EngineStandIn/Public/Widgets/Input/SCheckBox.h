@@ -5,6 +5,11 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
+namespace StandIn
+{
+	class FCheckBoxInspector;
+}
+
 DECLARE_DELEGATE_OneParam(FOnCheckStateChanged, ECheckBoxState)
 
 	class SLATE_API SCheckBox : public SCompoundWidget
@@ -21,11 +26,11 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
-private:
-	friend struct FStandInSlateAccess;
-
 	// A click: checked or undetermined becomes unchecked, unchecked becomes checked.
 	void ToggleCheckedState();
+
+private:
+	friend class StandIn::FCheckBoxInspector;
 
 	TAttribute<ECheckBoxState> IsCheckboxChecked;
 	FOnCheckStateChanged OnCheckStateChanged;

@@ -7,6 +7,11 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SWidget.h"
 
+namespace StandIn
+{
+	class FEditableTextInspector;
+}
+
 // One line of text the user can edit unless it is read-only. Font and colour left unset come from the
 // widget's style.
 class SLATE_API SEditableText : public SWidget
@@ -22,14 +27,11 @@ public:
 	SLATE_END_ARGS()
 	// clang-format on
 
-	SEditableText()
-		: NoChildren(this) {}
-
 	void Construct(const FArguments& InArgs);
 	virtual FChildren* GetChildren() override { return &NoChildren; }
 
 private:
-	friend struct FStandInSlateAccess;
+	friend class StandIn::FEditableTextInspector;
 
 	FNoChildren NoChildren;
 	TAttribute<FText> BoundText;

@@ -5,6 +5,11 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/Layout/SBorder.h"
 
+namespace StandIn
+{
+	class FEditableTextBoxInspector;
+}
+
 // An editable text in a box; commits on Enter, on losing focus and on clearing.
 class SLATE_API SEditableTextBox : public SBorder
 {
@@ -21,7 +26,7 @@ public:
 	void Construct(const FArguments& InArgs);
 
 private:
-	friend struct FStandInSlateAccess;
+	friend class StandIn::FEditableTextBoxInspector;
 
 	TAttribute<FText> HintText;
 	FOnTextCommitted OnTextCommitted;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+// How a box slot takes its share of the box: as much as its content wants, or a share of what is left.
+struct FSizeParam
+{
+	enum ESizeRule
+	{
+		SizeRule_Auto,
+		SizeRule_Stretch
+	};
+
+	ESizeRule SizeRule;
+	TAttribute<float> Value;
+
+protected:
+	FSizeParam(ESizeRule InTypeOfSize, const TAttribute<float>& InValue)
+		: SizeRule(InTypeOfSize), Value(InValue) {}
+};
+
+struct FStretch : public FSizeParam
+{
+	FStretch(const TAttribute<float>& StretchAmount)
+		: FSizeParam(SizeRule_Stretch, StretchAmount) {}
+	FStretch()
+		: FSizeParam(SizeRule_Stretch, 1.0f) {}
+};
