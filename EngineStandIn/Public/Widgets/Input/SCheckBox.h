@@ -12,7 +12,7 @@ namespace StandIn
 
 DECLARE_DELEGATE_OneParam(FOnCheckStateChanged, ECheckBoxState)
 
-	class SLATE_API SCheckBox : public SCompoundWidget
+class SLATE_API SCheckBox : public SCompoundWidget
 {
 public:
 	// clang-format off
