@@ -40,3 +40,16 @@ TEST(StandInSharedPointers, ADelegateBoundToAnObjectThatIsGoneIsUnbound)
 	EXPECT_FALSE(ByPointer.IsBound());
 	EXPECT_FALSE(ByRef.ExecuteIfBound(1));
 }
+
+TEST(StandInFunctionTest, ACopyOfAMutableFunctionCallsTheSameFunctor)
+{
+	int32 Calls = 0;
+	TFunction<int32()> Original = [&Calls]() {
+		return ++Calls;
+	};
+
+	TFunction<int32()> Copy = Original;
+
+	EXPECT_EQ(Copy(), 1);
+	EXPECT_EQ(Original(), 2);
+}

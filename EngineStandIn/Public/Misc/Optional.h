@@ -15,7 +15,7 @@ public:
 	bool IsSet() const { return bIsSet; }
 	const OptionalType& GetValue() const
 	{
-		checkf(IsSet(), TEXT("It is an error to call GetValue() on an unset TOptional. Please either check IsSet() or use Get(DefaultValue) instead."));
+		checkf(IsSet(), TEXT("GetValue() of an unset TOptional"));
 		return Value;
 	}
 	const OptionalType& Get(const OptionalType& DefaultValue) const { return IsSet() ? Value : DefaultValue; }
