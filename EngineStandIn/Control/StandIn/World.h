@@ -15,6 +15,8 @@ namespace StandIn
 		// The engine binaries folder, which is also the editor's current directory.
 		FString BaseDir = TEXT("C:/Work/Engine/Binaries/Win64/");
 		FString ProjectFilePath = TEXT("C:/Work/Moravane/Moravane.uproject");
+		// Whether Slate is up (FSlateApplication::IsInitialized); a test brings it up when it needs the renderer.
+		bool bSlateInitialized = false;
 	};
 
 	// Starts a fresh world: drive C: present, the journal emptied, the physical layer on top of the
