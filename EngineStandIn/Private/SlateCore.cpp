@@ -114,6 +114,15 @@ namespace
 			ButtonStyles.emplace_back(FName(TEXT("NoBorder")), FButtonStyle());
 		}
 
+		virtual const FName& GetStyleSetName() const override
+		{
+			static const FName Name(TEXT("CoreStyle"));
+			return Name;
+		}
+		// The core style keeps no brushes here.
+		virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier) const override { return FStyleDefaults::GetNoBrush(); }
+		virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier, const FSlateBrush* const DefaultBrush) const override { return DefaultBrush; }
+
 	protected:
 		virtual const FSlateWidgetStyle* GetWidgetStyleInternal(const FName DesiredTypeName, const FName StyleName) const override
 		{

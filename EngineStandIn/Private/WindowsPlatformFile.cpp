@@ -54,8 +54,6 @@ namespace
 		using IPlatformFile::IterateDirectory;
 		using IPlatformFile::IterateDirectoryStat;
 
-		virtual bool Initialize(IPlatformFile* Inner, const TCHAR* CmdLine) override { return true; }
-
 		virtual bool FileExists(const TCHAR* Filename) override
 		{
 			struct stat Info;
@@ -208,77 +206,10 @@ namespace
 	};
 }
 
-int64 IFileHandle::Size()
-{
-	const int64 Current = Tell();
-	SeekFromEnd();
-	const int64 Result = Tell();
-	Seek(Current);
-	return Result;
-}
-
 IPlatformFile& IPlatformFile::GetPlatformPhysical()
 {
 	static FWindowsPlatformFile Physical;
 	return Physical;
-}
-
-const TCHAR* IPlatformFile::GetPhysicalTypeName()
-{
-	return TEXT("PhysicalFile");
-}
-
-bool IPlatformFile::IterateDirectory(const TCHAR* Directory, FDirectoryVisitorFunc Visitor)
-{
-	struct FFunctionVisitor : public FDirectoryVisitor
-	{
-		FDirectoryVisitorFunc& Func;
-		explicit FFunctionVisitor(FDirectoryVisitorFunc& InFunc)
-			: Func(InFunc) {}
-		virtual bool Visit(const TCHAR* FilenameOrDirectory, bool bIsDirectory) override { return Func(FilenameOrDirectory, bIsDirectory); }
-	} FunctionVisitor(Visitor);
-	return IterateDirectory(Directory, FunctionVisitor);
-}
-
-bool IPlatformFile::IterateDirectoryStat(const TCHAR* Directory, FDirectoryStatVisitorFunc Visitor)
-{
-	struct FFunctionStatVisitor : public FDirectoryStatVisitor
-	{
-		FDirectoryStatVisitorFunc& Func;
-		explicit FFunctionStatVisitor(FDirectoryStatVisitorFunc& InFunc)
-			: Func(InFunc) {}
-		virtual bool Visit(const TCHAR* FilenameOrDirectory, const FFileStatData& StatData) override { return Func(FilenameOrDirectory, StatData); }
-	} FunctionVisitor(Visitor);
-	return IterateDirectoryStat(Directory, FunctionVisitor);
-}
-
-// Creates each missing level from the top, skipping a bare drive, through this layer's CreateDirectory.
-bool IPlatformFile::CreateDirectoryTree(const TCHAR* Directory)
-{
-	FString LocalFilename(Directory);
-	FPaths::NormalizeFilename(LocalFilename);
-	while (LocalFilename.Len() > 1 && LocalFilename.EndsWith(TEXT("/")) && !(LocalFilename.Len() == 3 && LocalFilename[1] == L':'))
-	{
-		LocalFilename = LocalFilename.Left(LocalFilename.Len() - 1);
-	}
-	for (int32 Index = 0; Index <= LocalFilename.Len(); ++Index)
-	{
-		if (Index < LocalFilename.Len() && LocalFilename[Index] != L'/')
-		{
-			continue;
-		}
-		const FString Prefix = LocalFilename.Left(Index);
-		const bool bIsDrive = Prefix.Len() == 2 && Prefix[1] == L':';
-		if (Prefix.IsEmpty() || bIsDrive)
-		{
-			continue;
-		}
-		if (!CreateDirectory(*Prefix) && !DirectoryExists(*Prefix))
-		{
-			break;
-		}
-	}
-	return DirectoryExists(*LocalFilename);
 }
 
 FPlatformFileManager& FPlatformFileManager::Get()

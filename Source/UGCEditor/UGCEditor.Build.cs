@@ -17,6 +17,8 @@ public class UGCEditor : ModuleRules
 			"SlateCore",
 			// SComboBox's template code, instantiated in this module, refers to EKeys.
 			"InputCore",
+			// IPlugin, for the per-plugin cook commands.
+			"Projects",
 		});
 	}
 }

@@ -20,6 +20,8 @@ namespace StandIn
 		// The active culture's localisation table, by namespace and key (UTF-8): a localised literal shows
 		// its translation where there is one and its source text otherwise, as the editor's does.
 		std::map<std::pair<std::string, std::string>, std::string> Translations;
+		// Whether Slate is up (FSlateApplication::IsInitialized); a test brings it up when it needs the renderer.
+		bool bSlateInitialized = false;
 	};
 
 	// Starts a fresh world: drive C: present, the journal emptied, the physical layer on top of the

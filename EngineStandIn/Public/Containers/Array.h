@@ -53,6 +53,13 @@ public:
 		Items.emplace_back();
 		return Num() - 1;
 	}
+	// The reference stays valid until the array grows beyond what it has reserved.
+	ElementType& AddDefaulted_GetRef()
+	{
+		Items.emplace_back();
+		return Items.back();
+	}
+	void Reserve(int32 Number) { Items.reserve((size_t)Number); }
 	void Append(const TArray& Other) { Items.insert(Items.end(), Other.Items.begin(), Other.Items.end()); }
 	void Insert(const ElementType& Item, int32 Index)
 	{

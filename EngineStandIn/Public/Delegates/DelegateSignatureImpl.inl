@@ -8,6 +8,7 @@
 #include <memory>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 // Single-cast delegate. The instance is never changed after binding, so copies may share it.
 template <typename WrappedRetValType, typename... ParamTypes>
@@ -92,4 +93,50 @@ private:
 	}
 
 	std::shared_ptr<const IBaseDelegateInstance<TFuncType>> Instance;
+};
+
+template <typename WrappedRetValType, typename... ParamTypes>
+class TMulticastDelegate;
+
+// Multicast delegate: every binding is called, in the order it was added; a binding whose object is gone is
+// skipped.
+template <typename... ParamTypes>
+class TMulticastDelegate<void, ParamTypes...>
+{
+public:
+	typedef TBaseDelegate<void, ParamTypes...> FDelegate;
+
+	template <typename FunctorType, typename... VarTypes>
+	FDelegateHandle AddLambda(FunctorType&& InFunctor, VarTypes... Vars)
+	{
+		const FDelegateHandle Handle = StandInDelegateHandle::Next();
+		Bindings.push_back({Handle, FDelegate::CreateLambda(std::forward<FunctorType>(InFunctor), Vars...)});
+		return Handle;
+	}
+
+	bool Remove(FDelegateHandle Handle)
+	{
+		for (auto It = Bindings.begin(); It != Bindings.end(); ++It)
+		{
+			if (It->first == Handle)
+			{
+				Bindings.erase(It);
+				return true;
+			}
+		}
+		return false;
+	}
+
+	void Broadcast(ParamTypes... Params) const
+	{
+		// A binding may add or remove others while it runs.
+		const std::vector<std::pair<FDelegateHandle, FDelegate>> Current = Bindings;
+		for (const std::pair<FDelegateHandle, FDelegate>& Binding : Current)
+		{
+			Binding.second.ExecuteIfBound(Params...);
+		}
+	}
+
+private:
+	std::vector<std::pair<FDelegateHandle, FDelegate>> Bindings;
 };

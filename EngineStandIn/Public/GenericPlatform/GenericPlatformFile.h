@@ -4,7 +4,12 @@
 #include "Misc/AssertionMacros.h"
 #include "Containers/UnrealString.h"
 #include "Misc/DateTime.h"
+#include "Containers/Array.h"
 #include "Templates/Function.h"
+
+class FArchive;
+class IAsyncReadFileHandle;
+class IMappedFileHandle;
 
 class CORE_API IFileHandle
 {
@@ -40,12 +45,45 @@ struct FFileStatData
 	bool bIsValid : 1;
 };
 
-enum class EDirectoryVisitorFlags : uint8
+enum EAsyncIOPriorityAndFlags
 {
-	None = 0,
-	ThreadSafe = 1,
+	AIOP_PRIORITY_MASK = 0x000000ff,
+
+	AIOP_FLAG_PRECACHE = 0x00000100,
+	AIOP_FLAG_DONTCACHE = 0x00000200,
+
+	AIOP_MIN = 0,
+	AIOP_Low,
+	AIOP_BelowNormal,
+	AIOP_Normal,
+	AIOP_High,
+	AIOP_CriticalPath,
+	AIOP_MAX = AIOP_CriticalPath,
+	AIOP_NUM,
+
+	AIOP_Precache = AIOP_MIN | AIOP_FLAG_PRECACHE,
 };
 
+enum class EPlatformFileRead : uint8
+{
+	None = 0x0,
+	AllowWrite = 0x01
+};
+
+enum class EPlatformFileWrite : uint8
+{
+	None = 0x0,
+	AllowRead = 0x01
+};
+
+enum class EDirectoryVisitorFlags : uint8
+{
+	None = 0x0,
+	ThreadSafe = 0x01
+};
+
+// One layer of the platform-file chain. The pure operations are each layer's own; every other one has
+// the engine's default, built on the pure ones of the same layer.
 class CORE_API IPlatformFile
 {
 public:
@@ -59,6 +97,22 @@ public:
 	virtual bool ShouldBeUsed(IPlatformFile* Inner, const TCHAR* CmdLine) const { return false; }
 	virtual bool Initialize(IPlatformFile* Inner, const TCHAR* CmdLine) = 0;
 	virtual void InitializeAfterSetActive() {}
+	virtual void MakeUniquePakFilesForTheseFiles(const TArray<TArray<FString>>& InFiles) {}
+	virtual void InitializeNewAsyncIO() {}
+	virtual void AddLocalDirectories(TArray<FString>& LocalDirectories)
+	{
+		if (GetLowerLevel())
+		{
+			GetLowerLevel()->AddLocalDirectories(LocalDirectories);
+		}
+	}
+	virtual void BypassSecurity(bool bInBypass)
+	{
+		if (GetLowerLevel() != nullptr)
+		{
+			GetLowerLevel()->BypassSecurity(bInBypass);
+		}
+	}
 	virtual void Tick() {}
 
 	virtual IPlatformFile* GetLowerLevel() = 0;
@@ -77,6 +131,10 @@ public:
 	virtual FString GetFilenameOnDisk(const TCHAR* Filename) = 0;
 
 	virtual IFileHandle* OpenRead(const TCHAR* Filename, bool bAllowWrite = false) = 0;
+	virtual IFileHandle* OpenReadNoBuffering(const TCHAR* Filename, bool bAllowWrite = false)
+	{
+		return OpenRead(Filename, bAllowWrite);
+	}
 	virtual IFileHandle* OpenWrite(const TCHAR* Filename, bool bAppend = false, bool bAllowRead = false) = 0;
 
 	virtual bool DirectoryExists(const TCHAR* Directory) = 0;
@@ -92,8 +150,11 @@ public:
 		virtual ~FDirectoryVisitor() {}
 		// Returns true to go on.
 		virtual bool Visit(const TCHAR* FilenameOrDirectory, bool bIsDirectory) = 0;
+		bool IsThreadSafe() const { return DirectoryVisitorFlags == EDirectoryVisitorFlags::ThreadSafe; }
 		EDirectoryVisitorFlags DirectoryVisitorFlags;
 	};
+
+	typedef TFunctionRef<bool(const TCHAR*, bool)> FDirectoryVisitorFunc;
 
 	class FDirectoryStatVisitor
 	{
@@ -102,21 +163,57 @@ public:
 		virtual bool Visit(const TCHAR* FilenameOrDirectory, const FFileStatData& StatData) = 0;
 	};
 
-	typedef TFunctionRef<bool(const TCHAR*, bool)> FDirectoryVisitorFunc;
 	typedef TFunctionRef<bool(const TCHAR*, const FFileStatData&)> FDirectoryStatVisitorFunc;
 
 	virtual bool IterateDirectory(const TCHAR* Directory, FDirectoryVisitor& Visitor) = 0;
 	virtual bool IterateDirectoryStat(const TCHAR* Directory, FDirectoryStatVisitor& Visitor) = 0;
+
+	virtual IAsyncReadFileHandle* OpenAsyncRead(const TCHAR* Filename);
+	virtual void SetAsyncMinimumPriority(EAsyncIOPriorityAndFlags MinPriority) {}
+	virtual IMappedFileHandle* OpenMapped(const TCHAR* Filename) { return nullptr; }
+
+	// The lower layer answers when there is one; only the bottom layer asks its own GetTimeStamp.
+	virtual void GetTimeStampPair(const TCHAR* PathA, const TCHAR* PathB, FDateTime& OutTimeStampA, FDateTime& OutTimeStampB);
+	virtual FDateTime GetTimeStampLocal(const TCHAR* Filename);
+
 	virtual bool IterateDirectory(const TCHAR* Directory, FDirectoryVisitorFunc Visitor);
 	virtual bool IterateDirectoryStat(const TCHAR* Directory, FDirectoryStatVisitorFunc Visitor);
+	virtual bool IterateDirectoryRecursively(const TCHAR* Directory, FDirectoryVisitor& Visitor);
+	virtual bool IterateDirectoryStatRecursively(const TCHAR* Directory, FDirectoryStatVisitor& Visitor);
+	virtual bool IterateDirectoryRecursively(const TCHAR* Directory, FDirectoryVisitorFunc Visitor);
+	virtual bool IterateDirectoryStatRecursively(const TCHAR* Directory, FDirectoryStatVisitorFunc Visitor);
 
+	// FileExtension is matched case-sensitively at the end of the name; null or empty takes every file.
+	virtual void FindFiles(TArray<FString>& FoundFiles, const TCHAR* Directory, const TCHAR* FileExtension);
+	virtual void FindFilesRecursively(TArray<FString>& FoundFiles, const TCHAR* Directory, const TCHAR* FileExtension);
+	virtual bool DeleteDirectoryRecursively(const TCHAR* Directory);
 	virtual bool CreateDirectoryTree(const TCHAR* Directory);
+
+	virtual bool CopyFile(const TCHAR* To, const TCHAR* From, EPlatformFileRead ReadFlags = EPlatformFileRead::None, EPlatformFileWrite WriteFlags = EPlatformFileWrite::None);
+	virtual bool CopyDirectoryTree(const TCHAR* DestinationDirectory, const TCHAR* Source, bool bOverwriteAllExisting);
+
+	virtual FString ConvertToAbsolutePathForExternalAppForRead(const TCHAR* Filename);
+	virtual FString ConvertToAbsolutePathForExternalAppForWrite(const TCHAR* Filename);
+
+	class IFileServerMessageHandler
+	{
+	public:
+		virtual ~IFileServerMessageHandler() {}
+		virtual void FillPayload(FArchive& Payload) = 0;
+		virtual void ProcessResponse(FArchive& Response) = 0;
+	};
+
+	virtual bool SendMessageToServer(const TCHAR* Message, IFileServerMessageHandler* Handler) { return false; }
+	virtual bool DoesCreatePublicFiles() { return false; }
+	virtual void SetCreatePublicFiles(bool bCreatePublicFiles) {}
 };
 
 class CORE_API IPhysicalPlatformFile : public IPlatformFile
 {
 public:
 	virtual bool ShouldBeUsed(IPlatformFile* Inner, const TCHAR* CmdLine) const override { return true; }
+	// The physical layer wraps nothing.
+	virtual bool Initialize(IPlatformFile* Inner, const TCHAR* CmdLine) override;
 	virtual IPlatformFile* GetLowerLevel() override { return nullptr; }
 	virtual void SetLowerLevel(IPlatformFile* NewLowerLevel) override { check(false); }
 	virtual const TCHAR* GetName() const override { return IPlatformFile::GetPhysicalTypeName(); }

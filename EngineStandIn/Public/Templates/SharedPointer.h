@@ -72,6 +72,7 @@ public:
 		return Impl.get();
 	}
 	void Reset() { Impl.reset(); }
+	bool IsUnique() const { return Impl.use_count() == 1; }
 	TSharedRef<ObjectType, Mode> ToSharedRef() const;
 
 	template <class OtherType>
@@ -270,4 +271,16 @@ template <class ToType, class FromType, ESPMode Mode>
 TSharedRef<ToType, Mode> StaticCastSharedRef(const TSharedRef<FromType, Mode>& InRef)
 {
 	return StandInSharedPointer::FAccess::MakeRef<ToType, Mode>(std::static_pointer_cast<ToType>(StandInSharedPointer::FAccess::Get(InRef)));
+}
+
+template <class ToType, class FromType, ESPMode Mode>
+TSharedPtr<ToType, Mode> StaticCastSharedPtr(const TSharedPtr<FromType, Mode>& InPtr)
+{
+	return StandInSharedPointer::FAccess::MakePtr<ToType, Mode>(std::static_pointer_cast<ToType>(StandInSharedPointer::FAccess::Get(InPtr)));
+}
+
+template <class ToType, class FromType, ESPMode Mode>
+TSharedRef<ToType, Mode> ConstCastSharedRef(const TSharedRef<FromType, Mode>& InRef)
+{
+	return StandInSharedPointer::FAccess::MakeRef<ToType, Mode>(std::const_pointer_cast<ToType>(StandInSharedPointer::FAccess::Get(InRef)));
 }

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Rendering/SlateRenderer.h"
+
+class SLATECORE_API FSlateApplicationBase
+{
+public:
+	virtual ~FSlateApplicationBase() {}
+
+	FSlateRenderer* GetRenderer() const;
+};
