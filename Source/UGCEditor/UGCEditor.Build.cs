@@ -1,3 +1,5 @@
+// Copyright UGCEditor contributors. All Rights Reserved.
+
 using UnrealBuildTool;
 
 public class UGCEditor : ModuleRules

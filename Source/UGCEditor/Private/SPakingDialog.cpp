@@ -1,3 +1,5 @@
+// Copyright UGCEditor contributors. All Rights Reserved.
+
 #include "SPakingDialog.h"
 
 #include "UGCPaking.h"

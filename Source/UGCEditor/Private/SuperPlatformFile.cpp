@@ -5,8 +5,7 @@
 #include "Misc/DateTime.h"
 
 FSuperPlatformFile::FSuperPlatformFile()
-	: PhysicalPlatformFile(nullptr)
-	, InnerPlatformFile(nullptr)
+	: PhysicalPlatformFile(nullptr), InnerPlatformFile(nullptr)
 {
 }
 

@@ -1,3 +1,5 @@
+// Copyright UGCEditor contributors. All Rights Reserved.
+
 #include "UGCPaking.h"
 
 #include "SPakingDialog.h"
