@@ -24,3 +24,9 @@ namespace StandInPlugins
 	void Forget();
 	void ForgetMountPoints();
 }
+
+namespace StandInTabs
+{
+	// A world reset starts with no tab spawners, window sizes or open tabs.
+	void Forget();
+}

@@ -22,6 +22,8 @@ namespace StandIn
 		std::map<std::pair<std::string, std::string>, std::string> Translations;
 		// Whether Slate is up (FSlateApplication::IsInitialized); a test brings it up when it needs the renderer.
 		bool bSlateInitialized = false;
+		// Whether the engine's PluginBrowser module is loaded, as when its plugin is enabled.
+		bool bPluginBrowserLoaded = true;
 	};
 
 	// Starts a fresh world: drive C: present, the journal emptied, the physical layer on top of the
