@@ -1,3 +1,4 @@
+#include "Widgets/Images/SImage.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Layout/Children.h"
 #include "SlotBase.h"
@@ -158,4 +159,9 @@ FSlateFontInfo FCoreStyle::GetDefaultFontStyle(const FName InTypefaceFontName, c
 	Font.Size = InSize;
 	Font.OutlineSettings = InOutlineSettings;
 	return Font;
+}
+
+void SImage::Construct(const FArguments& InArgs)
+{
+	Image = InArgs._Image;
 }

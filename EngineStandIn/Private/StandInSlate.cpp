@@ -48,6 +48,7 @@ namespace StandIn
 	FPaintedWidget Paint(const TSharedRef<SWidget>& Widget)
 	{
 		FPaintedWidget Painted;
+		Painted.bIsEnabled = Widget->IsEnabled();
 		if (const FWidgetInspector* Inspector = FindWidgetInspector(Widget.Get()))
 		{
 			Inspector->Paint(Widget.Get(), Painted);
@@ -75,7 +76,8 @@ namespace StandIn
 
 	FReply ClickButton(const TSharedRef<SWidget>& Button)
 	{
-		return InputOf<IClickInput>(Button, "a button").Click(Button.Get());
+		const IClickInput& Input = InputOf<IClickInput>(Button, "a button");
+		return Button->IsEnabled() ? Input.Click(Button.Get()) : FReply::Unhandled();
 	}
 
 	void ClickCheckBox(const TSharedRef<SWidget>& CheckBox)
@@ -117,6 +119,11 @@ namespace StandIn
 	void ClearComboSelection(const TSharedRef<SWidget>& ComboBox)
 	{
 		InputOf<IMenuInput>(ComboBox, "a combo box").ClearSelection(ComboBox.Get());
+	}
+
+	bool SelectListRow(const TSharedRef<SWidget>& List, const FString& ShownRowText)
+	{
+		return InputOf<IListInput>(List, "a list").SelectRow(List.Get(), ShownRowText);
 	}
 
 	bool CommitText(const TSharedRef<SWidget>& TextWidget, const FString& Text, ETextCommit::Type CommitType)

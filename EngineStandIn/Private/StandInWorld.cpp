@@ -45,6 +45,9 @@ namespace StandIn
 		State.World = World;
 		State.BaseDirStorage = World.BaseDir;
 		StandInJournal::Clear();
+		StandInPlugins::Forget();
+		StandInPlugins::ForgetMountPoints();
+		StandInTabs::Forget();
 		// Drive C: is always there; other drives exist where the sandbox has their folder.
 		mkdir((World.DriveRoot + "/C").c_str(), 0777);
 		setenv(WindowsDrivePath::DriveRootVariable(), World.DriveRoot.c_str(), 1);
@@ -130,7 +133,7 @@ EAppReturnType::Type FMessageDialog::Open(EAppMsgType::Type MessageType, const F
 
 EAppReturnType::Type FMessageDialog::Open(EAppMsgType::Type MessageType, EAppReturnType::Type DefaultValue, const FText& Message, const FText* OptTitle)
 {
-	StandIn::AppendToJournal(std::make_shared<StandIn::FMessageBoxRecord>(MessageType, Message));
+	StandIn::AppendToJournal(std::make_shared<StandIn::FMessageBoxRecord>(MessageType, Message, OptTitle ? *OptTitle : FText()));
 	return MessageType == EAppMsgType::Ok ? EAppReturnType::Ok : DefaultValue;
 }
 

@@ -19,8 +19,10 @@ public class UGCEditor : ModuleRules
 			"SlateCore",
 			// SComboBox's template code, instantiated in this module, refers to EKeys.
 			"InputCore",
-			// IPlugin, for the per-plugin cook commands.
+			// IPlugin and IPluginManager, the plugin descriptor, and the module descriptor types of the wizard interface.
 			"Projects",
+			// The plugin wizard that the "Create New Mod" tab hosts, and the interface its definition implements.
+			"PluginBrowser",
 		});
 	}
 }

@@ -4,6 +4,7 @@
 #include "CoreMinimal.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Layout/Margin.h"
+#include "Styling/SlateBrush.h"
 #include "Styling/SlateColor.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/SWidget.h"
@@ -42,6 +43,18 @@ namespace StandIn
 		bool bIsReadOnly = false;
 		const FButtonStyle* ButtonStyle = nullptr;
 		ECheckBoxState CheckState = ECheckBoxState::Unchecked;
+		// False when the widget takes no input (its IsEnabled, asked again).
+		bool bIsEnabled = true;
+		// An editable text box's error.
+		FText ErrorText;
+		// What an image draws; null draws nothing.
+		const FSlateBrush* Image = nullptr;
+		// A box's overrides, when set.
+		std::optional<float> WidthOverride;
+		std::optional<float> HeightOverride;
+		// A list's rows in order, and the rows selected, in the order they were selected.
+		std::vector<FText> ListRows;
+		std::vector<FText> SelectedListRows;
 	};
 	FPaintedWidget Paint(const TSharedRef<SWidget>& Widget);
 	// The text the widget shows, or else the first non-empty text below it (depth first).

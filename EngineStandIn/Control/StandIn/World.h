@@ -22,6 +22,8 @@ namespace StandIn
 		std::map<std::pair<std::string, std::string>, std::string> Translations;
 		// Whether Slate is up (FSlateApplication::IsInitialized); a test brings it up when it needs the renderer.
 		bool bSlateInitialized = false;
+		// Whether the engine's PluginBrowser module is loaded, as when its plugin is enabled.
+		bool bPluginBrowserLoaded = true;
 	};
 
 	// Starts a fresh world: drive C: present, the journal emptied, the physical layer on top of the
@@ -29,6 +31,12 @@ namespace StandIn
 	// programs.
 	void ResetWorld(const FWorld& World);
 	const FWorld& GetWorld();
+
+	// What the engine's plugin manager does at start-up: finds the plugins of the world's engine
+	// (<launch>/Engine/Plugins), of its project (Plugins, Mods, and the project file's
+	// AdditionalPluginDirectories), enables them as the project file and their descriptors say, and mounts
+	// the content of the enabled ones. A world without a project file counts as a project that lists nothing.
+	void DiscoverPlugins();
 
 	// Host path of a Windows path ("C:/Work/x" -> "<DriveRoot>/C/Work/x"); relative paths are taken from
 	// the editor's current directory.

@@ -67,6 +67,14 @@ namespace StandIn
 		virtual void ClearSelection(SWidget& ComboBox) const = 0;
 	};
 
+	class IListInput
+	{
+	public:
+		virtual ~IListInput() = default;
+		// False when no row shows the text.
+		virtual bool SelectRow(SWidget& List, const FString& ShownRowText) const = 0;
+	};
+
 	class ITextInput
 	{
 	public:
