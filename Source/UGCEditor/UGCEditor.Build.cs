@@ -17,6 +17,14 @@ public class UGCEditor : ModuleRules
 			"SlateCore",
 			// SComboBox's template code, instantiated in this module, refers to EKeys.
 			"InputCore",
+			"CoreUObject",
+			"ApplicationCore",
+			"UnrealEd",
+			"Projects",
+			// Reached only through their module interfaces, loaded by name when a cook starts.
+			"DesktopPlatform",
+			"MainFrame",
+			"UATHelper",
 		});
 	}
 }
