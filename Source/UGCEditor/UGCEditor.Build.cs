@@ -19,8 +19,18 @@ public class UGCEditor : ModuleRules
 			"SlateCore",
 			// SComboBox's template code, instantiated in this module, refers to EKeys.
 			"InputCore",
-			// IPlugin, for the per-plugin cook commands.
+			// UPackage and FPackageName, for the packages still to be saved.
+			"CoreUObject",
+			// The main frame's native window.
+			"ApplicationCore",
+			// FEditorFileUtils and its save prompt.
+			"UnrealEd",
+			// IPlugin and IPluginManager.
 			"Projects",
+			// Reached only through their module interfaces, loaded by name when a cook starts.
+			"DesktopPlatform",
+			"MainFrame",
+			"UATHelper",
 		});
 	}
 }
