@@ -159,3 +159,19 @@ FSlateFontInfo FCoreStyle::GetDefaultFontStyle(const FName InTypefaceFontName, c
 	Font.OutlineSettings = InOutlineSettings;
 	return Font;
 }
+
+TSharedPtr<FGenericWindow> SWindow::GetNativeWindow()
+{
+	return NativeWindow;
+}
+
+TSharedPtr<const FGenericWindow> SWindow::GetNativeWindow() const
+{
+	return NativeWindow;
+}
+
+void SWindow::SetNativeWindow(TSharedRef<FGenericWindow> InNativeWindow)
+{
+	check(!NativeWindow.IsValid());
+	NativeWindow = InNativeWindow;
+}
