@@ -1,4 +1,5 @@
 #include "StandInWorld.h"
+#include "StandInPackages.h"
 #include "StandIn/Records/FileAttributesRecord.h"
 #include "StandIn/Records/LogRecord.h"
 #include "StandIn/Records/MessageBoxRecord.h"
@@ -51,6 +52,7 @@ namespace StandIn
 		const std::string Path = std::string(STANDIN_PROGRAMS_DIR) + ":" + State.OriginalPath;
 		setenv("PATH", Path.c_str(), 1);
 		FPlatformFileManager::Get().SetPlatformFile(IPlatformFile::GetPlatformPhysical());
+		StandInPackages::Reset(World.DirtyPackages);
 	}
 
 	const FWorld& GetWorld()
