@@ -32,4 +32,9 @@ namespace StandIn
 	// Replaces the contents of an editable text or text box as a user's typing would, then commits them;
 	// false, with nothing changed, when the text is read-only.
 	bool CommitText(const TSharedRef<SWidget>& TextWidget, const FString& Text, ETextCommit::Type CommitType = ETextCommit::OnEnter);
+
+	// Clicks the first entry of a menu widget (what FMenuBuilder::MakeWidget returned) that shows this label:
+	// the entry's command runs its action in the command list the entry was added with, if that list maps
+	// it. False when no entry shows the label.
+	bool ClickMenuEntry(const TSharedRef<SWidget>& Menu, const FString& Label);
 }

@@ -8,6 +8,7 @@ namespace StandIn
 	const FWidgetInspector& ComboButtonInspector();
 	const FWidgetInspector& EditableTextInspector();
 	const FWidgetInspector& EditableTextBoxInspector();
+	const FWidgetInspector& MultiBoxWidgetInspector();
 	const FWidgetInspector& WindowInspector();
 
 	const FSlotInspector& BoxPanelSlotInspector();
@@ -25,6 +26,7 @@ namespace StandIn
 			&ComboButtonInspector(),
 			&EditableTextInspector(),
 			&EditableTextBoxInspector(),
+			&MultiBoxWidgetInspector(),
 			&WindowInspector(),
 		};
 		for (const FWidgetInspector* Inspector : Inspectors)
