@@ -46,6 +46,8 @@ namespace StandIn
 		State.World = World;
 		State.BaseDirStorage = World.BaseDir;
 		StandInJournal::Clear();
+		StandInPlugins::Forget();
+		StandInPlugins::ForgetMountPoints();
 		// Drive C: is always there; other drives exist where the sandbox has their folder.
 		mkdir((World.DriveRoot + "/C").c_str(), 0777);
 		setenv(WindowsDrivePath::DriveRootVariable(), World.DriveRoot.c_str(), 1);

@@ -17,3 +17,10 @@ namespace StandInJournal
 	// Forgets every record; a world reset starts an empty journal.
 	void Clear();
 }
+
+namespace StandInPlugins
+{
+	// A world reset starts with no plugins discovered and nothing but /Engine/ and /Game/ mounted.
+	void Forget();
+	void ForgetMountPoints();
+}

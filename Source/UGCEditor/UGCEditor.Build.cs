@@ -25,8 +25,10 @@ public class UGCEditor : ModuleRules
 			"ApplicationCore",
 			// FEditorFileUtils and its save prompt.
 			"UnrealEd",
-			// IPlugin and IPluginManager.
+			// IPlugin and IPluginManager, the plugin descriptor, and the module descriptor types of the wizard interface.
 			"Projects",
+			// The plugin wizard that the "Create New Mod" tab hosts, and the interface its definition implements.
+			"PluginBrowser",
 			// Reached only through their module interfaces, loaded by name when a cook starts.
 			"DesktopPlatform",
 			"MainFrame",

@@ -53,6 +53,12 @@ namespace StandIn
 	void ResetWorld(const FWorld& World);
 	const FWorld& GetWorld();
 
+	// What the engine's plugin manager does at start-up: finds the plugins of the world's engine
+	// (<launch>/Engine/Plugins), of its project (Plugins, Mods, and the project file's
+	// AdditionalPluginDirectories), enables them as the project file and their descriptors say, and mounts
+	// the content of the enabled ones. A world without a project file counts as a project that lists nothing.
+	void DiscoverPlugins();
+
 	// Host path of a Windows path ("C:/Work/x" -> "<DriveRoot>/C/Work/x"); relative paths are taken from
 	// the editor's current directory.
 	std::string HostPath(const FString& WindowsPath);

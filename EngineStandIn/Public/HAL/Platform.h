@@ -22,6 +22,7 @@ typedef wchar_t TCHAR;
 #define COREUOBJECT_API
 #define APPLICATIONCORE_API
 #define UNREALED_API
+#define PROJECTS_API
 #define UE_NODISCARD [[nodiscard]]
 
 enum
