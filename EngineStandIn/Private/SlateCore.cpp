@@ -165,3 +165,19 @@ void SImage::Construct(const FArguments& InArgs)
 {
 	Image = InArgs._Image;
 }
+
+TSharedPtr<FGenericWindow> SWindow::GetNativeWindow()
+{
+	return NativeWindow;
+}
+
+TSharedPtr<const FGenericWindow> SWindow::GetNativeWindow() const
+{
+	return NativeWindow;
+}
+
+void SWindow::SetNativeWindow(TSharedRef<FGenericWindow> InNativeWindow)
+{
+	check(!NativeWindow.IsValid());
+	NativeWindow = InNativeWindow;
+}

@@ -126,6 +126,26 @@ namespace StandIn
 		return InputOf<IListInput>(List, "a list").SelectRow(List.Get(), ShownRowText);
 	}
 
+	std::vector<FMenuEntry> MenuEntries(const TSharedRef<SWidget>& Menu)
+	{
+		return InputOf<IMultiBoxInput>(Menu, "a menu").Entries(Menu.Get());
+	}
+
+	bool ClickMenuEntry(const TSharedRef<SWidget>& Menu, const FString& Label)
+	{
+		const IMultiBoxInput& Input = InputOf<IMultiBoxInput>(Menu, "a menu");
+		const std::vector<FMenuEntry> Entries = Input.Entries(Menu.Get());
+		for (size_t Index = 0; Index < Entries.size(); ++Index)
+		{
+			if (Entries[Index].Kind == FMenuEntry::EKind::Entry && Entries[Index].Label.ToString().Equals(Label, ESearchCase::CaseSensitive))
+			{
+				Input.ClickEntry(Menu.Get(), Index);
+				return true;
+			}
+		}
+		return false;
+	}
+
 	bool CommitText(const TSharedRef<SWidget>& TextWidget, const FString& Text, ETextCommit::Type CommitType)
 	{
 		return InputOf<ITextInput>(TextWidget, "an editable text or text box").Commit(TextWidget.Get(), FText::FromString(Text), CommitType);

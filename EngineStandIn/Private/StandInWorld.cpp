@@ -1,4 +1,6 @@
+#include "StandInModules.h"
 #include "StandInWorld.h"
+#include "StandInPackages.h"
 #include "StandIn/Records/FileAttributesRecord.h"
 #include "StandIn/Records/LogRecord.h"
 #include "StandIn/Records/MessageBoxRecord.h"
@@ -54,6 +56,8 @@ namespace StandIn
 		const std::string Path = std::string(STANDIN_PROGRAMS_DIR) + ":" + State.OriginalPath;
 		setenv("PATH", Path.c_str(), 1);
 		FPlatformFileManager::Get().SetPlatformFile(IPlatformFile::GetPlatformPhysical());
+		StandInPackages::Reset(World.DirtyPackages);
+		StandInModules::StartEditorModules();
 	}
 
 	const FWorld& GetWorld()

@@ -4,6 +4,7 @@
 #include "CoreTypes.h"
 #include "Logging/LogVerbosity.h"
 #include "Misc/AssertionMacros.h"
+#include "Templates/UnrealTemplate.h"
 #include "Serialization/Archive.h"
 #include "Containers/UnrealString.h"
 #include "Containers/Array.h"

@@ -37,4 +37,9 @@ namespace StandIn
 	bool SelectListRow(const TSharedRef<SWidget>& List, const FString& ShownRowText);
 
 	bool CommitText(const TSharedRef<SWidget>& TextWidget, const FString& Text, ETextCommit::Type CommitType = ETextCommit::OnEnter);
+
+	// Clicks the first entry of a menu widget (what FMenuBuilder::MakeWidget returned) that shows this label:
+	// the entry's command runs its action in the command list the entry was added with, if that list maps
+	// it. False when no entry shows the label.
+	bool ClickMenuEntry(const TSharedRef<SWidget>& Menu, const FString& Label);
 }

@@ -5,9 +5,28 @@
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace StandIn
 {
+	// A package the editor holds with changes not yet saved.
+	struct FDirtyPackage
+	{
+		// "/MyRoute/Maps/Main"
+		FString LongPackageName;
+		// A map is a world package; anything else is a content package.
+		bool bIsMap = false;
+	};
+
+	// The button the user clicks in the save prompt: "Save Selected" with every package ticked, "Don't
+	// Save" (offered only when the prompt can be declined) or "Cancel".
+	enum class ESavePromptAnswer
+	{
+		SaveAll,
+		DontSave,
+		Cancel
+	};
+
 	struct FWorld
 	{
 		// Host folder that holds the drives: "C:/x" is the host file "<DriveRoot>/C/x".
@@ -24,6 +43,10 @@ namespace StandIn
 		bool bSlateInitialized = false;
 		// Whether the engine's PluginBrowser module is loaded, as when its plugin is enabled.
 		bool bPluginBrowserLoaded = true;
+		// The editor's unsaved packages, in the order the editor lists them; saving one clears its dirty state.
+		std::vector<FDirtyPackage> DirtyPackages;
+		// How the user answers every save prompt.
+		ESavePromptAnswer SavePromptAnswer = ESavePromptAnswer::SaveAll;
 	};
 
 	// Starts a fresh world: drive C: present, the journal emptied, the physical layer on top of the

@@ -11,6 +11,7 @@ namespace StandIn
 	const FWidgetInspector& EditableTextBoxInspector();
 	const FWidgetInspector& ImageInspector();
 	const FWidgetInspector& PluginTemplateListInspector();
+	const FWidgetInspector& MultiBoxWidgetInspector();
 	const FWidgetInspector& WindowInspector();
 
 	const FSlotInspector& BoxPanelSlotInspector();
@@ -31,6 +32,7 @@ namespace StandIn
 			&EditableTextBoxInspector(),
 			&ImageInspector(),
 			&PluginTemplateListInspector(),
+			&MultiBoxWidgetInspector(),
 			&WindowInspector(),
 		};
 		for (const FWidgetInspector* Inspector : Inspectors)

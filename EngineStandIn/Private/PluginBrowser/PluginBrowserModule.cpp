@@ -1,4 +1,4 @@
-#include "PluginBrowserModule.h"
+#include "IPluginBrowser.h"
 #include "SNewPluginWizard.h"
 #include "Widgets/Docking/SDockTab.h"
 
@@ -17,11 +17,10 @@ namespace
 	};
 }
 
-namespace StandInPluginBrowser
+namespace StandInModules
 {
-	IPluginBrowser& Module()
+	IModuleInterface* InitializePluginBrowserModule()
 	{
-		static FPluginBrowserModule Instance;
-		return Instance;
+		return new FPluginBrowserModule();
 	}
 }

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "CoreMinimal.h"
+#include "CoreTypes.h"
 
+// What the module manager calls on a module; every step does nothing unless the module says otherwise.
 class IModuleInterface
 {
 public:
