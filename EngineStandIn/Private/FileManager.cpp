@@ -3,6 +3,9 @@
 #include "HAL/PlatformFilemanager.h"
 #include "Misc/Paths.h"
 #include "Serialization/Archive.h"
+#include <cwchar>
+#include <string>
+#include <utility>
 
 DEFINE_LOG_CATEGORY_STATIC(LogFileManager, Log, All);
 
@@ -128,13 +131,51 @@ namespace
 		{
 			const bool bMatchAll = Pattern == TEXT("*") || Pattern == TEXT("*.*");
 			GetLowLevel().IterateDirectory(*Directory, [&](const TCHAR* Path, bool bIsDirectory) {
-				const FString Leaf = FPaths::GetCleanFilename(Path);
-				if (((bIsDirectory && Directories) || (!bIsDirectory && Files)) && (bMatchAll || MatchesWildcard(Leaf, Pattern)))
+				if (!((bIsDirectory && Directories) || (!bIsDirectory && Files)))
 				{
-					Result.Add(Leaf);
+					return true;
+				}
+				FString Leaf = CleanFilename(Path);
+				if (bMatchAll || MatchesWildcard(Leaf, Pattern))
+				{
+					Result.Add(std::move(Leaf));
 				}
 				return true;
 			});
+		}
+
+		// FPaths::GetCleanFilename, read straight from the visitor's characters: a walk of a large tree
+		// would otherwise copy every path once more only to cut its name out.
+		static FString CleanFilename(const TCHAR* Path)
+		{
+			const auto IsSeparator = [](TCHAR Char) {
+				return Char == L'/' || Char == L'\\';
+			};
+			int32 EndPos = (int32)std::wcslen(Path);
+			while (EndPos > 0 && IsSeparator(Path[EndPos - 1]))
+			{
+				--EndPos;
+			}
+			int32 StartPos = EndPos;
+			while (StartPos > 0 && !IsSeparator(Path[StartPos - 1]))
+			{
+				--StartPos;
+			}
+			return FString(EndPos - StartPos, Path + StartPos);
+		}
+
+		// StartDirectory / Name, allocated once at its final size.
+		static FString JoinPath(const FString& Directory, const FString& Name)
+		{
+			thread_local std::wstring Joined;
+			Joined.assign(*Directory, (size_t)Directory.Len());
+			const bool bEndsInSeparator = !Joined.empty() && (Joined.back() == L'/' || Joined.back() == L'\\');
+			if (!Joined.empty() && !bEndsInSeparator && (*Name)[0] != L'/')
+			{
+				Joined += L'/';
+			}
+			Joined.append(*Name, std::wcslen(*Name));
+			return FString((int32)Joined.size(), Joined.c_str());
 		}
 
 		static void FindFilesRecursiveInternal(TArray<FString>& FileNames, const FString& StartDirectory, const FString& Filename, bool Files, bool Directories)
@@ -143,13 +184,13 @@ namespace
 			FindFiles(Result, StartDirectory, Filename, Files, Directories);
 			for (const FString& Name : Result)
 			{
-				FileNames.Add(StartDirectory / Name);
+				FileNames.Add(JoinPath(StartDirectory, Name));
 			}
 			TArray<FString> SubDirs;
 			FindFiles(SubDirs, StartDirectory, TEXT("*"), false, true);
 			for (const FString& SubDir : SubDirs)
 			{
-				FindFilesRecursiveInternal(FileNames, StartDirectory / SubDir, Filename, Files, Directories);
+				FindFilesRecursiveInternal(FileNames, JoinPath(StartDirectory, SubDir), Filename, Files, Directories);
 			}
 		}
 	};
