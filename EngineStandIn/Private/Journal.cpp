@@ -14,10 +14,31 @@ namespace
 		std::function<void(const StandIn::FJournalRecord&)> Listener;
 	};
 
+	// Never destroyed: a long session leaves tens of thousands of records, and freeing them one by one as
+	// the program ends only delays its exit.
 	FJournalState& State()
 	{
-		static FJournalState Instance;
-		return Instance;
+		static FJournalState* const Instance = new FJournalState;
+		return *Instance;
+	}
+
+	// As StandIn::ToUtf8, appended in place; 7-bit text is copied unit for unit.
+	void AppendUtf8(std::string& Line, const FString& Text)
+	{
+		const TCHAR* const Chars = *Text;
+		const size_t Start = Line.size();
+		Line.resize(Start + (size_t)Text.Len());
+		for (size_t Index = 0; Index < (size_t)Text.Len(); ++Index)
+		{
+			const TCHAR Char = Chars[Index];
+			if (Char == 0 || (uint32)Char >= 0x80)
+			{
+				Line.resize(Start);
+				Line += StandIn::ToUtf8(Text);
+				return;
+			}
+			Line[Start + Index] = (char)Char;
+		}
 	}
 }
 
@@ -53,22 +74,28 @@ namespace StandIn
 
 	void AppendToJournal(std::shared_ptr<const FJournalRecord> Record)
 	{
-		State().Records.push_back(Record);
-		if (State().Listener)
+		FJournalState& Journal = State();
+		Journal.Records.push_back(std::move(Record));
+		if (Journal.Listener)
 		{
-			State().Listener(*Record);
+			Journal.Listener(*Journal.Records.back());
 		}
 	}
 
 	std::string FLogRecord::Describe() const
 	{
 		static const char* const Names[] = {"NoLogging", "Fatal", "Error", "Warning", "Display", "Log", "Verbose", "VeryVerbose"};
-		std::string Line = ToUtf8(Category) + ": ";
+		std::string Line;
+		Line.reserve((size_t)Category.Len() + (size_t)Message.Len() + 16);
+		AppendUtf8(Line, Category);
+		Line += ": ";
 		if (Verbosity != ELogVerbosity::Log)
 		{
-			Line += std::string(Names[Verbosity]) + ": ";
+			Line += Names[Verbosity];
+			Line += ": ";
 		}
-		return Line + ToUtf8(Message);
+		AppendUtf8(Line, Message);
+		return Line;
 	}
 
 	std::string FMessageBoxRecord::Describe() const
