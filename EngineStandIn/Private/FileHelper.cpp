@@ -30,16 +30,15 @@ namespace
 		}
 	}
 
+	// Without an early exit, so that the compiler can take many characters at a time.
 	bool IsPureAnsi(const TCHAR* Chars, size_t Count)
 	{
+		uint32 AllBits = 0;
 		for (size_t Index = 0; Index < Count; ++Index)
 		{
-			if ((uint32)Chars[Index] > 0x7F)
-			{
-				return false;
-			}
+			AllBits |= (uint32)Chars[Index];
 		}
-		return true;
+		return AllBits <= 0x7F;
 	}
 }
 
@@ -73,6 +72,16 @@ bool FFileHelper::SaveStringToFile(FStringView String, const TCHAR* Filename, EE
 		Bytes.reserve(2 + Count * 2);
 		Bytes = "\xFF\xFE";
 		AppendUtf16LittleEndian(Bytes, Chars, Count);
+	}
+	else if (EncodingOptions == EEncodingOptions::AutoDetect)
+	{
+		// Every character is 7-bit here, so each is its own byte.
+		Bytes.resize(Count);
+		char* const Out = &Bytes[0];
+		for (size_t Index = 0; Index < Count; ++Index)
+		{
+			Out[Index] = (char)Chars[Index];
+		}
 	}
 	else
 	{

@@ -5,6 +5,7 @@
 #include "StandIn/Records/WindowRecord.h"
 #include "StandIn/World.h"
 #include <cstdio>
+#include <cwchar>
 
 namespace
 {
@@ -22,22 +23,28 @@ namespace
 		return *Instance;
 	}
 
-	// As StandIn::ToUtf8, appended in place; 7-bit text is copied unit for unit.
+	// As StandIn::ToUtf8, appended in place. Text of 7-bit characters without a NUL, a log line's usual
+	// content, is checked and narrowed in two loops without early exits, which the compiler vectorises.
 	void AppendUtf8(std::string& Line, const FString& Text)
 	{
 		const TCHAR* const Chars = *Text;
-		const size_t Start = Line.size();
-		Line.resize(Start + (size_t)Text.Len());
-		for (size_t Index = 0; Index < (size_t)Text.Len(); ++Index)
+		const size_t Count = (size_t)Text.Len();
+		uint32 AllBits = 0;
+		for (size_t Index = 0; Index < Count; ++Index)
 		{
-			const TCHAR Char = Chars[Index];
-			if (Char == 0 || (uint32)Char >= 0x80)
-			{
-				Line.resize(Start);
-				Line += StandIn::ToUtf8(Text);
-				return;
-			}
-			Line[Start + Index] = (char)Char;
+			AllBits |= (uint32)Chars[Index];
+		}
+		if (AllBits >= 0x80 || std::wcslen(Chars) != Count)
+		{
+			Line += StandIn::ToUtf8(Text);
+			return;
+		}
+		const size_t Start = Line.size();
+		Line.resize(Start + Count);
+		char* const Out = &Line[Start];
+		for (size_t Index = 0; Index < Count; ++Index)
+		{
+			Out[Index] = (char)Chars[Index];
 		}
 	}
 }

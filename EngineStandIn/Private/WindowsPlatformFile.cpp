@@ -170,6 +170,29 @@ namespace
 			unsigned char Type;
 		};
 
+		// The name as StandIn::FromUtf8 converts it; a 7-bit name, the usual one, goes straight in.
+		static void AppendName(std::wstring& Names, const char* Name)
+		{
+			const size_t Length = std::strlen(Name);
+			unsigned AllBits = 0;
+			for (size_t Index = 0; Index < Length; ++Index)
+			{
+				AllBits |= (unsigned char)Name[Index];
+			}
+			if (AllBits >= 0x80)
+			{
+				const FString Converted = StandIn::FromUtf8(Name);
+				Names.append(*Converted, (size_t)Converted.Len());
+				return;
+			}
+			const size_t Start = Names.size();
+			Names.resize(Start + Length);
+			for (size_t Index = 0; Index < Length; ++Index)
+			{
+				Names[Start + Index] = (TCHAR)(unsigned char)Name[Index];
+			}
+		}
+
 		template <typename FunctorType>
 		bool Walk(const TCHAR* Directory, FunctorType&& VisitEntry)
 		{
@@ -188,9 +211,9 @@ namespace
 				const char* Name = Entry->d_name;
 				if (std::strcmp(Name, ".") != 0 && std::strcmp(Name, "..") != 0)
 				{
-					const FString Converted = StandIn::FromUtf8(Name);
-					Entries.push_back(FEntry{Names.size(), (size_t)Converted.Len(), Entry->d_type});
-					Names.append(*Converted, (size_t)Converted.Len());
+					Entries.push_back(FEntry{Names.size(), 0, Entry->d_type});
+					AppendName(Names, Name);
+					Entries.back().Length = Names.size() - Entries.back().Offset;
 				}
 			}
 			closedir(Handle);
