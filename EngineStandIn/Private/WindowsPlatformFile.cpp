@@ -9,6 +9,8 @@
 #include <cstring>
 #include <cwchar>
 #include <dirent.h>
+#include <fcntl.h>
+#include <sys/syscall.h>
 #include <sys/stat.h>
 #include <sys/time.h>
 #include <unistd.h>
@@ -197,8 +199,10 @@ namespace
 		bool Walk(const TCHAR* Directory, FunctorType&& VisitEntry)
 		{
 			const std::string HostDirectory = StandInWorld::ToHost(Directory);
-			DIR* Handle = opendir(HostDirectory.c_str());
-			if (Handle == nullptr)
+			// The folder is read with getdents64 straight into a buffer on the stack, as readdir does but
+			// without the stat and the heap buffer opendir takes for every folder of a large walk.
+			const int Handle = open(HostDirectory.c_str(), O_RDONLY | O_NONBLOCK | O_DIRECTORY | O_CLOEXEC);
+			if (Handle < 0)
 			{
 				return false;
 			}
@@ -206,17 +210,25 @@ namespace
 			// look at what they point to, since directory links are followed.
 			std::vector<FEntry> Entries;
 			std::wstring Names;
-			while (const dirent* Entry = readdir(Handle))
+			alignas(8) char Buffer[32768];
+			long Read;
+			while ((Read = syscall(SYS_getdents64, Handle, Buffer, sizeof(Buffer))) > 0)
 			{
-				const char* Name = Entry->d_name;
-				if (std::strcmp(Name, ".") != 0 && std::strcmp(Name, "..") != 0)
+				for (long Offset = 0; Offset < Read;)
 				{
-					Entries.push_back(FEntry{Names.size(), 0, Entry->d_type});
-					AppendName(Names, Name);
-					Entries.back().Length = Names.size() - Entries.back().Offset;
+					const dirent64* Entry = (const dirent64*)(Buffer + Offset);
+					Offset += Entry->d_reclen;
+					const char* Name = Entry->d_name;
+					// readdir passes over entries without an inode, those of files being deleted.
+					if (Entry->d_ino != 0 && std::strcmp(Name, ".") != 0 && std::strcmp(Name, "..") != 0)
+					{
+						Entries.push_back(FEntry{Names.size(), 0, Entry->d_type});
+						AppendName(Names, Name);
+						Entries.back().Length = Names.size() - Entries.back().Offset;
+					}
 				}
 			}
-			closedir(Handle);
+			close(Handle);
 			// The same order as comparing the names as FStrings: letters folded, then the shorter first.
 			std::wstring Keys(Names);
 			for (TCHAR& Char : Keys)
