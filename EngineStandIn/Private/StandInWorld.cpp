@@ -130,13 +130,18 @@ namespace StandInWorld
 
 namespace StandInLogging
 {
-	void Emit(const FLogCategoryBase& Category, ELogVerbosity::Type Verbosity, const FString& Message)
+	void Emit(const FLogCategoryBase& Category, ELogVerbosity::Type Verbosity, FString&& Message)
 	{
-		StandIn::AppendToJournal(std::make_shared<StandIn::FLogRecord>(Category.GetCategoryName().ToString(), Verbosity, Message));
+		StandIn::AppendToJournal(std::make_shared<StandIn::FLogRecord>(Category.GetCategoryName().ToString(), Verbosity, std::move(Message)));
 		if (Verbosity == ELogVerbosity::Fatal)
 		{
 			std::abort();
 		}
+	}
+
+	void Emit(const FLogCategoryBase& Category, ELogVerbosity::Type Verbosity, const FString& Message)
+	{
+		Emit(Category, Verbosity, FString(Message));
 	}
 }
 
