@@ -39,22 +39,27 @@ namespace
 	{
 		const size_t HugePage = (size_t)2 << 20;
 		const size_t Reserved = (size_t)1 << 30;
+		const int DefaultTopPad = 128 * 1024;
+		const int DefaultMmapMax = 65536;
 		mallopt(M_MMAP_MAX, 0);
-		mallopt(M_TRIM_THRESHOLD, (int)(Reserved * 2 - 1));
 		mallopt(M_TOP_PAD, (int)Reserved);
-		// The heap grows by the whole reservation now, so that it is one region that can be advised once.
+		// The heap grows by the whole reservation now, so that it is one region that can be advised once;
+		// afterwards it grows as usual, so that a limit on the data size only ends the reservation early.
+		const uintptr_t EndBefore = (uintptr_t)sbrk(0);
 		void* const Probe = malloc(HugePage);
-		if (Probe == nullptr)
+		const uintptr_t EndAfter = (uintptr_t)sbrk(0);
+		mallopt(M_TOP_PAD, DefaultTopPad);
+		if (Probe == nullptr || EndAfter < EndBefore + Reserved)
 		{
+			free(Probe);
+			mallopt(M_MMAP_MAX, DefaultMmapMax);
 			return;
 		}
-		const uintptr_t Start = ((uintptr_t)Probe + HugePage - 1) & ~(uintptr_t)(HugePage - 1);
-		const uintptr_t End = (uintptr_t)sbrk(0) & ~(uintptr_t)(HugePage - 1);
+		mallopt(M_TRIM_THRESHOLD, (int)(Reserved * 2 - 1));
 		free(Probe);
-		if (End > Start)
-		{
-			madvise((void*)Start, End - Start, MADV_HUGEPAGE);
-		}
+		const uintptr_t Start = (EndBefore + HugePage - 1) & ~(uintptr_t)(HugePage - 1);
+		const uintptr_t End = EndAfter & ~(uintptr_t)(HugePage - 1);
+		madvise((void*)Start, End - Start, MADV_HUGEPAGE);
 	}
 
 	StandIn::FWorld MakeWorld(const FEditorCommandLine& CommandLine)
