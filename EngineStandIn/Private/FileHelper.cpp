@@ -16,12 +16,11 @@ namespace
 	}
 
 	// TCHAR is UTF-32 here; the file gets the UTF-16 the engine writes on Windows.
-	std::string ToUtf16LittleEndian(const std::wstring& Text)
+	void AppendUtf16LittleEndian(std::string& Bytes, const TCHAR* Chars, size_t Count)
 	{
-		std::string Bytes;
-		for (const wchar_t Char : Text)
+		for (size_t Index = 0; Index < Count; ++Index)
 		{
-			const uint32 CodePoint = (uint32)Char;
+			const uint32 CodePoint = (uint32)Chars[Index];
 			if (CodePoint >= 0x10000)
 			{
 				AppendUtf16LittleEndian(Bytes, 0xD800 + ((CodePoint - 0x10000) >> 10));
@@ -32,19 +31,17 @@ namespace
 				AppendUtf16LittleEndian(Bytes, CodePoint);
 			}
 		}
-		return Bytes;
 	}
 
-	bool IsPureAnsi(const std::wstring& Text)
+	// Without an early exit, so that the compiler can take many characters at a time.
+	bool IsPureAnsi(const TCHAR* Chars, size_t Count)
 	{
-		for (const wchar_t Char : Text)
+		uint32 AllBits = 0;
+		for (size_t Index = 0; Index < Count; ++Index)
 		{
-			if ((uint32)Char > 0x7F)
-			{
-				return false;
-			}
+			AllBits |= (uint32)Chars[Index];
 		}
-		return true;
+		return AllBits <= 0x7F;
 	}
 }
 
@@ -94,25 +91,42 @@ bool FFileHelper::SaveStringToFile(FStringView String, const TCHAR* Filename, EE
 	{
 		return Ar->Close();
 	}
-	const std::wstring Text(String.GetData(), (size_t)String.Len());
+	// Read in place: a response file of a large tree is tens of megabytes of 4-byte characters, and the
+	// bytes are sized before they are written, so neither is copied or regrown.
+	const TCHAR* const Chars = String.GetData();
+	const size_t Count = (size_t)String.Len();
 	std::string Bytes;
 	if (EncodingOptions == EEncodingOptions::ForceUTF8 || EncodingOptions == EEncodingOptions::ForceUTF8WithoutBOM)
 	{
+		const std::wstring Text(Chars, Count);
 		if (EncodingOptions == EEncodingOptions::ForceUTF8)
 		{
 			Bytes = "\xEF\xBB\xBF";
 		}
 		Bytes += FTCHARToUTF8(Text.c_str()).Get();
 	}
-	else if (EncodingOptions == EEncodingOptions::ForceUnicode || (EncodingOptions == EEncodingOptions::AutoDetect && !IsPureAnsi(Text)))
+	else if (EncodingOptions == EEncodingOptions::ForceUnicode || (EncodingOptions == EEncodingOptions::AutoDetect && !IsPureAnsi(Chars, Count)))
 	{
-		Bytes = "\xFF\xFE" + ToUtf16LittleEndian(Text);
+		Bytes.reserve(2 + Count * 2);
+		Bytes = "\xFF\xFE";
+		AppendUtf16LittleEndian(Bytes, Chars, Count);
+	}
+	else if (EncodingOptions == EEncodingOptions::AutoDetect)
+	{
+		// Every character is 7-bit here, so each is its own byte.
+		Bytes.resize(Count);
+		char* const Out = &Bytes[0];
+		for (size_t Index = 0; Index < Count; ++Index)
+		{
+			Out[Index] = (char)Chars[Index];
+		}
 	}
 	else
 	{
-		for (const wchar_t Char : Text)
+		Bytes.resize(Count);
+		for (size_t Index = 0; Index < Count; ++Index)
 		{
-			Bytes += (uint32)Char <= 0xFF ? (char)Char : '?';
+			Bytes[Index] = (uint32)Chars[Index] <= 0xFF ? (char)Chars[Index] : '?';
 		}
 	}
 	Ar->Serialize(Bytes.data(), (int64)Bytes.size());

@@ -3,6 +3,9 @@
 #include "HAL/PlatformFilemanager.h"
 #include "Misc/Paths.h"
 #include "Serialization/Archive.h"
+#include <cwchar>
+#include <string>
+#include <utility>
 
 DEFINE_LOG_CATEGORY_STATIC(LogFileManager, Log, All);
 
@@ -123,33 +126,65 @@ namespace
 			return LastSlash == INDEX_NONE ? FString() : Normalized.Left(LastSlash);
 		}
 
-		// Leaf names in one folder that match the pattern; "*" and "*.*" match every name.
-		static void FindFiles(TArray<FString>& Result, const FString& Directory, const FString& Pattern, bool Files, bool Directories)
+		// Leaf names in one folder that match the pattern; "*" and "*.*" match every name. Each is handed
+		// over as the characters of the visited path that FPaths::GetCleanFilename would keep, so that a
+		// walk of a large tree does not copy every name on its way to being joined to its folder again.
+		template <typename FunctorType>
+		static void FindFiles(const FString& Directory, const FString& Pattern, bool Files, bool Directories, FunctorType&& TakeLeaf)
 		{
 			const bool bMatchAll = Pattern == TEXT("*") || Pattern == TEXT("*.*");
 			GetLowLevel().IterateDirectory(*Directory, [&](const TCHAR* Path, bool bIsDirectory) {
-				const FString Leaf = FPaths::GetCleanFilename(Path);
-				if (((bIsDirectory && Directories) || (!bIsDirectory && Files)) && (bMatchAll || MatchesWildcard(Leaf, Pattern)))
+				if (!((bIsDirectory && Directories) || (!bIsDirectory && Files)))
 				{
-					Result.Add(Leaf);
+					return true;
+				}
+				const auto IsSeparator = [](TCHAR Char) {
+					return Char == L'/' || Char == L'\\';
+				};
+				size_t End = std::wcslen(Path);
+				while (End > 0 && IsSeparator(Path[End - 1]))
+				{
+					--End;
+				}
+				size_t Start = End;
+				while (Start > 0 && !IsSeparator(Path[Start - 1]))
+				{
+					--Start;
+				}
+				if (bMatchAll || MatchesWildcard(FString((int32)(End - Start), Path + Start), Pattern))
+				{
+					TakeLeaf(Path + Start, End - Start);
 				}
 				return true;
 			});
 		}
 
+		// Directory / Leaf as FString's operator/ joins them (a leaf never starts with a separator),
+		// allocated once at its final size.
+		static FString JoinPath(const FString& Directory, const TCHAR* Leaf, size_t LeafLength)
+		{
+			thread_local std::wstring Joined;
+			Joined.assign(*Directory, (size_t)Directory.Len());
+			if (!Joined.empty() && Joined.back() != L'/' && Joined.back() != L'\\')
+			{
+				Joined += L'/';
+			}
+			Joined.append(Leaf, LeafLength);
+			return FString((int32)Joined.size(), Joined.c_str());
+		}
+
 		static void FindFilesRecursiveInternal(TArray<FString>& FileNames, const FString& StartDirectory, const FString& Filename, bool Files, bool Directories)
 		{
-			TArray<FString> Result;
-			FindFiles(Result, StartDirectory, Filename, Files, Directories);
-			for (const FString& Name : Result)
-			{
-				FileNames.Add(StartDirectory / Name);
-			}
+			FindFiles(StartDirectory, Filename, Files, Directories, [&](const TCHAR* Leaf, size_t LeafLength) {
+				FileNames.Add(JoinPath(StartDirectory, Leaf, LeafLength));
+			});
 			TArray<FString> SubDirs;
-			FindFiles(SubDirs, StartDirectory, TEXT("*"), false, true);
+			FindFiles(StartDirectory, TEXT("*"), false, true, [&](const TCHAR* Leaf, size_t LeafLength) {
+				SubDirs.Add(JoinPath(StartDirectory, Leaf, LeafLength));
+			});
 			for (const FString& SubDir : SubDirs)
 			{
-				FindFilesRecursiveInternal(FileNames, StartDirectory / SubDir, Filename, Files, Directories);
+				FindFilesRecursiveInternal(FileNames, SubDir, Filename, Files, Directories);
 			}
 		}
 	};

@@ -8,6 +8,7 @@
 #include "StandIn/Records/WindowRecord.h"
 #include "StandIn/World.h"
 #include <cstdio>
+#include <cwchar>
 
 namespace
 {
@@ -17,10 +18,37 @@ namespace
 		std::function<void(const StandIn::FJournalRecord&)> Listener;
 	};
 
+	// Never destroyed: a long session leaves tens of thousands of records, and freeing them one by one as
+	// the program ends only delays its exit.
 	FJournalState& State()
 	{
-		static FJournalState Instance;
-		return Instance;
+		static FJournalState* const Instance = new FJournalState;
+		return *Instance;
+	}
+
+	// As StandIn::ToUtf8, appended in place. Text of 7-bit characters without a NUL, a log line's usual
+	// content, is checked and narrowed in two loops without early exits, which the compiler vectorises.
+	void AppendUtf8(std::string& Line, const FString& Text)
+	{
+		const TCHAR* const Chars = *Text;
+		const size_t Count = (size_t)Text.Len();
+		uint32 AllBits = 0;
+		for (size_t Index = 0; Index < Count; ++Index)
+		{
+			AllBits |= (uint32)Chars[Index];
+		}
+		if (AllBits >= 0x80 || std::wcslen(Chars) != Count)
+		{
+			Line += StandIn::ToUtf8(Text);
+			return;
+		}
+		const size_t Start = Line.size();
+		Line.resize(Start + Count);
+		char* const Out = &Line[Start];
+		for (size_t Index = 0; Index < Count; ++Index)
+		{
+			Out[Index] = (char)Chars[Index];
+		}
 	}
 }
 
@@ -56,22 +84,28 @@ namespace StandIn
 
 	void AppendToJournal(std::shared_ptr<const FJournalRecord> Record)
 	{
-		State().Records.push_back(Record);
-		if (State().Listener)
+		FJournalState& Journal = State();
+		Journal.Records.push_back(std::move(Record));
+		if (Journal.Listener)
 		{
-			State().Listener(*Record);
+			Journal.Listener(*Journal.Records.back());
 		}
 	}
 
 	std::string FLogRecord::Describe() const
 	{
 		static const char* const Names[] = {"NoLogging", "Fatal", "Error", "Warning", "Display", "Log", "Verbose", "VeryVerbose"};
-		std::string Line = ToUtf8(Category) + ": ";
+		std::string Line;
+		Line.reserve((size_t)Category.Len() + (size_t)Message.Len() + 16);
+		AppendUtf8(Line, Category);
+		Line += ": ";
 		if (Verbosity != ELogVerbosity::Log)
 		{
-			Line += std::string(Names[Verbosity]) + ": ";
+			Line += Names[Verbosity];
+			Line += ": ";
 		}
-		return Line + ToUtf8(Message);
+		AppendUtf8(Line, Message);
+		return Line;
 	}
 
 	std::string FMessageBoxRecord::Describe() const

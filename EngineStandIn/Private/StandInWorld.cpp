@@ -70,14 +70,48 @@ namespace StandIn
 		return StandInWorld::ToHost(*WindowsPath);
 	}
 
+	// Paths and log lines are almost always 7-bit: those are copied unit for unit at their final size, and
+	// only text with other characters goes through the converters. Both stop at a NUL, as the converters'
+	// C strings do.
 	std::string ToUtf8(const FString& Text)
 	{
-		return std::string(FTCHARToUTF8(*Text).Get());
+		const TCHAR* const Chars = *Text;
+		std::string Converted((size_t)Text.Len(), '\0');
+		for (size_t Index = 0; Index < Converted.size(); ++Index)
+		{
+			const TCHAR Char = Chars[Index];
+			if (Char == 0)
+			{
+				Converted.resize(Index);
+				return Converted;
+			}
+			if ((uint32)Char >= 0x80)
+			{
+				return std::string(FTCHARToUTF8(Chars).Get());
+			}
+			Converted[Index] = (char)Char;
+		}
+		return Converted;
 	}
 
 	FString FromUtf8(const std::string& Text)
 	{
-		return FString(FUTF8ToTCHAR(Text.c_str(), (int32)Text.size()).Get());
+		thread_local std::wstring Converted;
+		Converted.resize(Text.size());
+		for (size_t Index = 0; Index < Text.size(); ++Index)
+		{
+			const unsigned char Byte = (unsigned char)Text[Index];
+			if (Byte == 0)
+			{
+				return FString((int32)Index, Converted.c_str());
+			}
+			if (Byte >= 0x80)
+			{
+				return FString(FUTF8ToTCHAR(Text.c_str(), (int32)Text.size()).Get());
+			}
+			Converted[Index] = (TCHAR)Byte;
+		}
+		return FString((int32)Text.size(), Converted.c_str());
 	}
 }
 
@@ -103,13 +137,18 @@ namespace StandInWorld
 
 namespace StandInLogging
 {
-	void Emit(const FLogCategoryBase& Category, ELogVerbosity::Type Verbosity, const FString& Message)
+	void Emit(const FLogCategoryBase& Category, ELogVerbosity::Type Verbosity, FString&& Message)
 	{
-		StandIn::AppendToJournal(std::make_shared<StandIn::FLogRecord>(Category.GetCategoryName().ToString(), Verbosity, Message));
+		StandIn::AppendToJournal(std::make_shared<StandIn::FLogRecord>(Category.GetCategoryName().ToString(), Verbosity, std::move(Message)));
 		if (Verbosity == ELogVerbosity::Fatal)
 		{
 			std::abort();
 		}
+	}
+
+	void Emit(const FLogCategoryBase& Category, ELogVerbosity::Type Verbosity, const FString& Message)
+	{
+		Emit(Category, Verbosity, FString(Message));
 	}
 }
 

@@ -36,6 +36,90 @@ namespace
 		}
 		return true;
 	}
+
+	bool IsAsciiLetter(TCHAR Char)
+	{
+		return (Char >= L'a' && Char <= L'z') || (Char >= L'A' && Char <= L'Z');
+	}
+
+	// The first position at or after Start where Needle matches, or npos. A case-insensitive search
+	// anchors on the needle's first character that only matches itself, so that the library's vectorised
+	// character scan skips the positions that cannot match; paths always have a separator to anchor on.
+	size_t FindForward(const std::wstring& Haystack, size_t Start, const TCHAR* Needle, size_t NeedleLen, ESearchCase::Type SearchCase)
+	{
+		if (Start > Haystack.size() || NeedleLen > Haystack.size() - Start)
+		{
+			return std::wstring::npos;
+		}
+		if (SearchCase == ESearchCase::CaseSensitive)
+		{
+			return Haystack.find(Needle, Start, NeedleLen);
+		}
+		const size_t LastPosition = Haystack.size() - NeedleLen;
+		size_t Anchor = 0;
+		while (Anchor < NeedleLen && IsAsciiLetter(Needle[Anchor]))
+		{
+			++Anchor;
+		}
+		if (Anchor == NeedleLen)
+		{
+			const TCHAR First = FoldCase(Needle[0]);
+			for (size_t Position = Start; Position <= LastPosition; ++Position)
+			{
+				if (FoldCase(Haystack[Position]) == First && MatchesAt(Haystack, Position, Needle, NeedleLen, SearchCase))
+				{
+					return Position;
+				}
+			}
+			return std::wstring::npos;
+		}
+		const TCHAR* const Begin = Haystack.data();
+		const TCHAR* Cursor = Begin + Start + Anchor;
+		const TCHAR* const ScanEnd = Begin + LastPosition + Anchor + 1;
+		while (Cursor < ScanEnd)
+		{
+			const TCHAR* Hit = std::wmemchr(Cursor, Needle[Anchor], (size_t)(ScanEnd - Cursor));
+			if (Hit == nullptr)
+			{
+				break;
+			}
+			const size_t Position = (size_t)(Hit - Begin) - Anchor;
+			// Paths share long prefixes; their ends tell them apart sooner.
+			if (FoldCase(Haystack[Position + NeedleLen - 1]) == FoldCase(Needle[NeedleLen - 1]) && MatchesAt(Haystack, Position, Needle, NeedleLen, SearchCase))
+			{
+				return Position;
+			}
+			Cursor = Hit + 1;
+		}
+		return std::wstring::npos;
+	}
+
+	// Every match, left to right and not overlapping, replaced into Out in whole runs; Out is untouched
+	// when nothing matches, so that callers keep the original without a copy.
+	int32 ReplaceAll(const std::wstring& Source, const TCHAR* SearchText, const TCHAR* ReplacementText, ESearchCase::Type SearchCase, std::wstring& Out)
+	{
+		const size_t SearchLen = std::wcslen(SearchText);
+		const TCHAR* const Replacement = ReplacementText ? ReplacementText : L"";
+		const size_t ReplacementLen = std::wcslen(Replacement);
+		size_t Match = FindForward(Source, 0, SearchText, SearchLen, SearchCase);
+		if (Match == std::wstring::npos)
+		{
+			return 0;
+		}
+		Out.reserve(ReplacementLen <= SearchLen ? Source.size() : Source.size() + (ReplacementLen - SearchLen) * 4);
+		int32 Count = 0;
+		size_t Copied = 0;
+		while (Match != std::wstring::npos)
+		{
+			Out.append(Source, Copied, Match - Copied);
+			Out.append(Replacement, ReplacementLen);
+			Copied = Match + SearchLen;
+			++Count;
+			Match = FindForward(Source, Copied, SearchText, SearchLen, SearchCase);
+		}
+		Out.append(Source, Copied, std::wstring::npos);
+		return Count;
+	}
 }
 
 FString::FString(const ANSICHAR* Str)
@@ -122,14 +206,8 @@ int32 FString::Find(const TCHAR* SubStr, ESearchCase::Type SearchCase, ESearchDi
 		{
 			Start = (size_t)std::max(0, std::min(StartPosition, Len() - 1));
 		}
-		for (size_t Position = Start; Position + SubLen <= Data.size(); ++Position)
-		{
-			if (MatchesAt(Data, Position, SubStr, SubLen, SearchCase))
-			{
-				return (int32)Position;
-			}
-		}
-		return INDEX_NONE;
+		const size_t Position = FindForward(Data, Start, SubStr, SubLen, SearchCase);
+		return Position == std::wstring::npos ? INDEX_NONE : (int32)Position;
 	}
 	int32 LastStart = Len() - (int32)SubLen;
 	if (StartPosition != INDEX_NONE)
@@ -158,9 +236,12 @@ bool FString::EndsWith(const FString& Suffix, ESearchCase::Type SearchCase) cons
 
 FString FString::Replace(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase) const
 {
-	FString Result(*this);
-	Result.ReplaceInline(From, To, SearchCase);
-	return Result;
+	if (IsEmpty() || From == nullptr || *From == 0)
+	{
+		return *this;
+	}
+	std::wstring Replaced;
+	return ReplaceAll(Data, From, To, SearchCase, Replaced) > 0 ? FString(std::move(Replaced)) : *this;
 }
 
 int32 FString::ReplaceInline(const TCHAR* SearchText, const TCHAR* ReplacementText, ESearchCase::Type SearchCase)
@@ -169,24 +250,12 @@ int32 FString::ReplaceInline(const TCHAR* SearchText, const TCHAR* ReplacementTe
 	{
 		return 0;
 	}
-	const size_t SearchLen = std::wcslen(SearchText);
-	std::wstring Result;
-	int32 Count = 0;
-	size_t Position = 0;
-	while (Position < Data.size())
+	std::wstring Replaced;
+	const int32 Count = ReplaceAll(Data, SearchText, ReplacementText, SearchCase, Replaced);
+	if (Count > 0)
 	{
-		if (MatchesAt(Data, Position, SearchText, SearchLen, SearchCase))
-		{
-			Result += ReplacementText ? ReplacementText : L"";
-			Position += SearchLen;
-			++Count;
-		}
-		else
-		{
-			Result += Data[Position++];
-		}
+		Data = std::move(Replaced);
 	}
-	Data = std::move(Result);
 	return Count;
 }
 
@@ -294,13 +363,22 @@ namespace StandInFormat
 	// the output grows as needed.
 	FString FormatVarArgs(const TCHAR* Fmt, va_list Args)
 	{
-		std::wstring Out;
+		// One buffer per thread, kept between calls: a line is built without regrowing from empty, and the
+		// result is then allocated once at its exact size.
+		thread_local std::wstring Out;
+		Out.clear();
 		const TCHAR* Cursor = Fmt;
 		while (*Cursor)
 		{
 			if (*Cursor != L'%')
 			{
-				Out += *Cursor++;
+				const TCHAR* RunEnd = Cursor;
+				while (*RunEnd && *RunEnd != L'%')
+				{
+					++RunEnd;
+				}
+				Out.append(Cursor, (size_t)(RunEnd - Cursor));
+				Cursor = RunEnd;
 				continue;
 			}
 			const TCHAR* DirectiveStart = Cursor++;
@@ -375,6 +453,12 @@ namespace StandInFormat
 			}
 			++Cursor;
 
+			if ((Conversion == L's' || Conversion == L'S') && Width < 0 && Precision < 0)
+			{
+				const TCHAR* Str = va_arg(Args, const TCHAR*);
+				Out += Str ? Str : L"(null)";
+				continue;
+			}
 			std::wstring CFormat = L"%" + Flags;
 			if (Width >= 0)
 			{

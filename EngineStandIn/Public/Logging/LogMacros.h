@@ -8,6 +8,8 @@ namespace StandInLogging
 {
 	// Hands a formatted line to the output devices; a Fatal line ends the program.
 	void Emit(const FLogCategoryBase& Category, ELogVerbosity::Type Verbosity, const FString& Message);
+	// UE_LOG's freshly formatted line: the journal keeps it without a copy.
+	void Emit(const FLogCategoryBase& Category, ELogVerbosity::Type Verbosity, FString&& Message);
 }
 
 #define UE_LOG_ACTIVE(CategoryName, Verbosity) (!CategoryName.IsSuppressed(ELogVerbosity::Verbosity))
