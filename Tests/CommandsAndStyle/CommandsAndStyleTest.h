@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Framework/Commands/InputBindingManager.h"
-#include "Interfaces/IPluginManager.h"
+#include "PluginDouble.h"
 #include "SandboxTest.h"
 #include "Styling/ISlateStyle.h"
 #include "Styling/SlateStyleRegistry.h"
@@ -24,32 +24,6 @@ protected:
 		}
 		FSandboxTest::TearDown();
 	}
-};
-
-// A plugin as the plugin manager would hand it over.
-class FTestPlugin : public IPlugin
-{
-public:
-	FTestPlugin(const TCHAR* InName, const TCHAR* InBaseDir)
-		: Name(InName), BaseDir(InBaseDir) {}
-
-	virtual const FString& GetName() const override { return Name; }
-	virtual const FString& GetDescriptorFileName() const override { return DescriptorFileName; }
-	virtual FString GetBaseDir() const override { return BaseDir; }
-	virtual FString GetContentDir() const override { return BaseDir / TEXT("Content"); }
-	virtual FString GetMountedAssetPath() const override { return TEXT("/") + Name + TEXT("/"); }
-	virtual EPluginType GetType() const override { return EPluginType::Project; }
-	virtual bool IsEnabled() const override { return true; }
-	virtual bool CanContainContent() const override { return true; }
-	virtual EPluginLoadedFrom GetLoadedFrom() const override { return EPluginLoadedFrom::Project; }
-	virtual const FPluginDescriptor& GetDescriptor() const override { return Descriptor; }
-	virtual bool UpdateDescriptor(const FPluginDescriptor& NewDescriptor, FText& OutFailReason) override { return false; }
-
-private:
-	FString Name;
-	FString BaseDir;
-	FString DescriptorFileName = BaseDir / Name + TEXT(".uplugin");
-	FPluginDescriptor Descriptor;
 };
 
 inline std::string Utf8(const FString& Text)

@@ -1,31 +1,5 @@
 #include "CookTest.h"
-#include "PluginDescriptor.h"
-
-namespace
-{
-	// A plugin listed under another name than its descriptor's, which the editor's own plugin manager never
-	// makes; only the cook's task reads it.
-	class FRenamedPlugin : public IPlugin
-	{
-	public:
-		virtual const FString& GetName() const override { return Name; }
-		virtual const FString& GetDescriptorFileName() const override { return DescriptorFileName; }
-		virtual FString GetBaseDir() const override { return TEXT("../../../Moravane/Plugins/Foo"); }
-		virtual FString GetContentDir() const override { return TEXT("../../../Moravane/Plugins/Foo/Content"); }
-		virtual FString GetMountedAssetPath() const override { return TEXT("/Listed/"); }
-		virtual EPluginType GetType() const override { return EPluginType::Project; }
-		virtual bool IsEnabled() const override { return true; }
-		virtual bool CanContainContent() const override { return true; }
-		virtual EPluginLoadedFrom GetLoadedFrom() const override { return EPluginLoadedFrom::Project; }
-		virtual const FPluginDescriptor& GetDescriptor() const override { return Descriptor; }
-		virtual bool UpdateDescriptor(const FPluginDescriptor& NewDescriptor, FText& OutFailReason) override { return false; }
-
-	private:
-		FString Name = TEXT("Listed");
-		FString DescriptorFileName = TEXT("../../../Moravane/Plugins/Foo/Foo.uplugin");
-		FPluginDescriptor Descriptor;
-	};
-}
+#include "PluginDouble.h"
 
 TEST_F(FCookTest, TaskForTheExamplePathsHasTheExactCommandLineTextsAndIcon)
 {
@@ -41,14 +15,14 @@ TEST_F(FCookTest, TaskForTheExamplePathsHasTheExactCommandLineTextsAndIcon)
 
 	const std::vector<const StandIn::FUatTaskRecord*> Tasks = UatTasks();
 	ASSERT_EQ(Tasks.size(), 1u);
-	EXPECT_EQ(Tasks[0]->CommandLine, TEXT("BuildDLC -Project=\"D:/Work/Moravane/Moravane.uproject\" -PluginPath=\"D:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin\" -ue4exe=\"D:/Work/\"Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe -nocompile -TargetPlatform=WindowsNoEditor -dlcName=\"MyRoute\",\"MyRoute\" "));
-	EXPECT_EQ(Tasks[0]->PlatformDisplayName.ToString(), TEXT("Windows"));
-	EXPECT_EQ(FTextInspector::GetNamespace(Tasks[0]->PlatformDisplayName).Get(TEXT("")), TEXT("UGCPackager"));
-	EXPECT_EQ(FTextInspector::GetKey(Tasks[0]->PlatformDisplayName).Get(TEXT("")), TEXT("PlatformName_Windows"));
-	EXPECT_EQ(Tasks[0]->TaskName.ToString(), TEXT("Cooking MyRoute"));
-	EXPECT_EQ(Tasks[0]->TaskShortName.ToString(), TEXT("Cooking MyRoute"));
-	EXPECT_EQ(Tasks[0]->IconResourceName.ToString(), TEXT("../../../Moravane/Resources/PackageUGC_64x.png"));
-	EXPECT_EQ(Tasks[0]->ResultLocation, TEXT(""));
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->CommandLine), "BuildDLC -Project=\"D:/Work/Moravane/Moravane.uproject\" -PluginPath=\"D:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin\" -ue4exe=\"D:/Work/\"Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe -nocompile -TargetPlatform=WindowsNoEditor -dlcName=\"MyRoute\",\"MyRoute\" ");
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->PlatformDisplayName.ToString()), "Windows");
+	EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetNamespace(Tasks[0]->PlatformDisplayName).Get(TEXT(""))), "UGCPackager");
+	EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetKey(Tasks[0]->PlatformDisplayName).Get(TEXT(""))), "PlatformName_Windows");
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->TaskName.ToString()), "Cooking MyRoute");
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->TaskShortName.ToString()), "Cooking MyRoute");
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->IconResourceName.ToString()), "../../../Moravane/Resources/PackageUGC_64x.png");
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->ResultLocation), "");
 }
 
 TEST_F(FCookTest, TaskTakesTheLaunchFolderOnAnotherDriveAsTheEditorsRoot)
@@ -63,7 +37,7 @@ TEST_F(FCookTest, TaskTakesTheLaunchFolderOnAnotherDriveAsTheEditorsRoot)
 
 	const std::vector<const StandIn::FUatTaskRecord*> Tasks = UatTasks();
 	ASSERT_EQ(Tasks.size(), 1u);
-	EXPECT_EQ(Tasks[0]->CommandLine, TEXT("BuildDLC -Project=\"C:/Work/Moravane/Moravane.uproject\" -PluginPath=\"C:/Work/Moravane/Mods/Tram/Tram.uplugin\" -ue4exe=\"E:/Launch/\"Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe -nocompile -TargetPlatform=WindowsNoEditor -dlcName=\"Tram\",\"Tram\" "));
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->CommandLine), "BuildDLC -Project=\"C:/Work/Moravane/Moravane.uproject\" -PluginPath=\"C:/Work/Moravane/Mods/Tram/Tram.uplugin\" -ue4exe=\"E:/Launch/\"Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe -nocompile -TargetPlatform=WindowsNoEditor -dlcName=\"Tram\",\"Tram\" ");
 }
 
 TEST_F(FCookTest, EachClickStartsATaskOfItsOwn)
@@ -79,9 +53,9 @@ TEST_F(FCookTest, EachClickStartsATaskOfItsOwn)
 
 	const std::vector<const StandIn::FUatTaskRecord*> Tasks = UatTasks();
 	ASSERT_EQ(Tasks.size(), 3u);
-	EXPECT_EQ(Tasks[0]->TaskName.ToString(), TEXT("Cooking Tram"));
-	EXPECT_EQ(Tasks[1]->TaskName.ToString(), TEXT("Cooking MyRoute"));
-	EXPECT_EQ(Tasks[2]->TaskName.ToString(), TEXT("Cooking Tram"));
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->TaskName.ToString()), "Cooking Tram");
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[1]->TaskName.ToString()), "Cooking MyRoute");
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[2]->TaskName.ToString()), "Cooking Tram");
 }
 
 TEST_F(FCookTest, SubMenuEntriesDoNothingInTheModulesCommandList)
@@ -97,10 +71,11 @@ TEST_F(FCookTest, SubMenuEntriesDoNothingInTheModulesCommandList)
 
 TEST_F(FCookTest, TaskIsNamedAfterThePluginAndTheDlcAfterItsDescriptorFile)
 {
-	Packager->PackagePlugin(MakeShared<FRenamedPlugin>());
+	// Listed as "Listed" while its descriptor is Foo.uplugin, which discovery never produces.
+	Packager->PackagePlugin(MakeShared<FTestPlugin>(TEXT("Listed"), TEXT("../../../Moravane/Plugins/Foo"), TEXT("../../../Moravane/Plugins/Foo/Foo.uplugin")));
 
 	const std::vector<const StandIn::FUatTaskRecord*> Tasks = UatTasks();
 	ASSERT_EQ(Tasks.size(), 1u);
-	EXPECT_EQ(Tasks[0]->TaskName.ToString(), TEXT("Cooking Listed"));
-	EXPECT_EQ(Tasks[0]->CommandLine, TEXT("BuildDLC -Project=\"C:/Work/Moravane/Moravane.uproject\" -PluginPath=\"C:/Work/Moravane/Plugins/Foo/Foo.uplugin\" -ue4exe=\"C:/Work/\"Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe -nocompile -TargetPlatform=WindowsNoEditor -dlcName=\"Foo\",\"Foo\" "));
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->TaskName.ToString()), "Cooking Listed");
+	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->CommandLine), "BuildDLC -Project=\"C:/Work/Moravane/Moravane.uproject\" -PluginPath=\"C:/Work/Moravane/Plugins/Foo/Foo.uplugin\" -ue4exe=\"C:/Work/\"Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe -nocompile -TargetPlatform=WindowsNoEditor -dlcName=\"Foo\",\"Foo\" ");
 }

@@ -27,8 +27,8 @@ TEST_F(FCookTest, PluginFoundTwiceIsListedOnceAsThePluginManagerKeepsIt)
 	const std::vector<StandIn::FMenuEntry> Entries = StandIn::MenuEntries(OpenDropDown());
 
 	ASSERT_EQ(Entries.size(), 2u);
-	EXPECT_EQ(Entries[1].Label.ToString(), TEXT("MyRoute"));
-	EXPECT_EQ(Entries[1].ToolTip.ToString(), TEXT("../../../Moravane/Plugins/MyRoute"));
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].Label.ToString()), "MyRoute");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].ToolTip.ToString()), "../../../Moravane/Plugins/MyRoute");
 }
 
 TEST_F(FCookTest, ProjectCopyOfAnEnginePluginIsListedAsTheProjects)
@@ -40,8 +40,8 @@ TEST_F(FCookTest, ProjectCopyOfAnEnginePluginIsListedAsTheProjects)
 	const std::vector<StandIn::FMenuEntry> Entries = StandIn::MenuEntries(OpenDropDown());
 
 	ASSERT_EQ(Entries.size(), 2u);
-	EXPECT_EQ(Entries[1].Label.ToString(), TEXT("Signals"));
-	EXPECT_EQ(Entries[1].ToolTip.ToString(), TEXT("../../../Moravane/Plugins/Signals"));
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].Label.ToString()), "Signals");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].ToolTip.ToString()), "../../../Moravane/Plugins/Signals");
 }
 
 TEST_F(FCookTest, DropDownEntryShowsThePluginsNameAndFolderUnderTheShareHeadingWithAFolderIconThatDrawsNothing)
@@ -53,14 +53,14 @@ TEST_F(FCookTest, DropDownEntryShowsThePluginsNameAndFolderUnderTheShareHeadingW
 
 	ASSERT_EQ(Entries.size(), 2u);
 	EXPECT_EQ(Entries[0].Kind, StandIn::FMenuEntry::EKind::Heading);
-	EXPECT_EQ(Entries[0].Label.ToString(), TEXT("Share..."));
-	EXPECT_EQ(FTextInspector::GetNamespace(Entries[0].Label).Get(TEXT("")), TEXT("UGCPackager"));
-	EXPECT_EQ(FTextInspector::GetKey(Entries[0].Label).Get(TEXT("")), TEXT("PackageUGC"));
+	EXPECT_EQ(StandIn::ToUtf8(Entries[0].Label.ToString()), "Share...");
+	EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetNamespace(Entries[0].Label).Get(TEXT(""))), "UGCPackager");
+	EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetKey(Entries[0].Label).Get(TEXT(""))), "PackageUGC");
 	EXPECT_EQ(Entries[1].Kind, StandIn::FMenuEntry::EKind::Entry);
-	EXPECT_EQ(Entries[1].Label.ToString(), TEXT("MyRoute"));
-	EXPECT_EQ(Entries[1].ToolTip.ToString(), TEXT("../../../Moravane/Plugins/MyRoute"));
-	EXPECT_EQ(Entries[1].IconStyleSetName.ToString(), TEXT("UGCEditorStyle"));
-	EXPECT_EQ(Entries[1].IconStyleName.ToString(), TEXT("UGCEditor.Folder"));
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].Label.ToString()), "MyRoute");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].ToolTip.ToString()), "../../../Moravane/Plugins/MyRoute");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].IconStyleSetName.ToString()), "UGCEditorStyle");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].IconStyleName.ToString()), "UGCEditor.Folder");
 	EXPECT_EQ(Entries[1].IconBrush, FStyleDefaults::GetNoBrush());
 }
 
@@ -75,8 +75,8 @@ TEST_F(FCookTest, DropDownRegistersOneCommandPerPluginWithoutAnIconOfItsOwn)
 	EXPECT_EQ(PluginCommandNames(), std::vector<std::string>({"UGCEditorUGC_MyRoute", "UGCEditorUGC_Tram"}));
 	const TSharedPtr<FUICommandInfo> Command = FInputBindingManager::Get().FindCommandInContext(TEXT("UGCEditor"), TEXT("UGCEditorUGC_Tram"));
 	ASSERT_TRUE(Command.IsValid());
-	EXPECT_EQ(Command->GetLabel().ToString(), TEXT("Tram"));
-	EXPECT_EQ(Command->GetDescription().ToString(), TEXT("../../../Moravane/Mods/Tram"));
+	EXPECT_EQ(StandIn::ToUtf8(Command->GetLabel().ToString()), "Tram");
+	EXPECT_EQ(StandIn::ToUtf8(Command->GetDescription().ToString()), "../../../Moravane/Mods/Tram");
 	EXPECT_FALSE(Command->GetIcon().IsSet());
 }
 
@@ -125,9 +125,9 @@ TEST_F(FCookTest, SubMenuShowsTheCommandsOfTheLastDropDownNotThePluginsFoundSinc
 	const std::vector<StandIn::FMenuEntry> Entries = StandIn::MenuEntries(OpenSubMenu());
 
 	ASSERT_EQ(Entries.size(), 1u);
-	EXPECT_EQ(Entries[0].Label.ToString(), TEXT("MyRoute"));
-	EXPECT_EQ(Entries[0].ToolTip.ToString(), TEXT("../../../Moravane/Plugins/MyRoute"));
-	EXPECT_EQ(Entries[0].IconStyleName.ToString(), TEXT("UGCEditor.Folder"));
+	EXPECT_EQ(StandIn::ToUtf8(Entries[0].Label.ToString()), "MyRoute");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[0].ToolTip.ToString()), "../../../Moravane/Plugins/MyRoute");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[0].IconStyleName.ToString()), "UGCEditor.Folder");
 }
 
 TEST_F(FCookTest, NoPackageablePluginLeavesBothMenusWithoutEntries)

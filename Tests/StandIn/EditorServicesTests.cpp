@@ -128,13 +128,13 @@ TEST_F(FSandboxTest, MenuEntryShowsItsOverridesOrElseTheCommandsTextsAndIcon)
 
 	const std::vector<StandIn::FMenuEntry> Entries = StandIn::MenuEntries(MenuBuilder.MakeWidget());
 	ASSERT_EQ(Entries.size(), 2u);
-	EXPECT_EQ(Entries[0].Label.ToString(), TEXT("Command label"));
-	EXPECT_EQ(Entries[0].ToolTip.ToString(), TEXT("Its tooltip"));
-	EXPECT_EQ(Entries[0].IconStyleName.ToString(), TEXT("Icons.Command"));
-	EXPECT_EQ(Entries[1].Label.ToString(), TEXT("Other label"));
+	EXPECT_EQ(StandIn::ToUtf8(Entries[0].Label.ToString()), "Command label");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[0].ToolTip.ToString()), "Its tooltip");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[0].IconStyleName.ToString()), "Icons.Command");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].Label.ToString()), "Other label");
 	// An override holding an empty text is set, so the entry shows no tooltip.
-	EXPECT_EQ(Entries[1].ToolTip.ToString(), TEXT(""));
-	EXPECT_EQ(Entries[1].IconStyleSetName.ToString(), TEXT("NoSuchStyle"));
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].ToolTip.ToString()), "");
+	EXPECT_EQ(StandIn::ToUtf8(Entries[1].IconStyleSetName.ToString()), "NoSuchStyle");
 	EXPECT_EQ(Entries[1].IconBrush, FStyleDefaults::GetNoBrush());
 }
 
@@ -185,8 +185,8 @@ TEST_F(FSandboxTest, SavePromptListsMapsFirstAndSaveAllLeavesNothingDirty)
 	EXPECT_TRUE(Prompts[0]->bPromptShown);
 	EXPECT_TRUE(Prompts[0]->bOutPackagesNeededSavingGiven);
 	ASSERT_EQ(Prompts[0]->PackageNames.size(), 2u);
-	EXPECT_EQ(Prompts[0]->PackageNames[0], TEXT("/Route/Maps/Main"));
-	EXPECT_EQ(Prompts[0]->PackageNames[1], TEXT("/Route/Data"));
+	EXPECT_EQ(StandIn::ToUtf8(Prompts[0]->PackageNames[0]), "/Route/Maps/Main");
+	EXPECT_EQ(StandIn::ToUtf8(Prompts[0]->PackageNames[1]), "/Route/Data");
 	TArray<UPackage*> Dirty;
 	FEditorFileUtils::GetDirtyContentPackages(Dirty);
 	FEditorFileUtils::GetDirtyWorldPackages(Dirty);
