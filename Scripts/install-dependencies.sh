@@ -2,7 +2,7 @@
 # Installs, from Debian's packages only, whatever of the build and test tools this machine lacks.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ libgtest-dev libpng-dev jq file clang-format)
+packages=(cmake ninja-build g++ libgtest-dev libpng-dev nlohmann-json3-dev jq file clang-format)
 missing=()
 for package in "${packages[@]}"; do
 	dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" || missing+=("$package")

@@ -1,7 +1,10 @@
 #include "StandIn/Journal.h"
+#include "StandIn/Records/BuildToolRecord.h"
 #include "StandIn/Records/FileAttributesRecord.h"
 #include "StandIn/Records/LogRecord.h"
 #include "StandIn/Records/MessageBoxRecord.h"
+#include "StandIn/Records/NotificationRecord.h"
+#include "StandIn/Records/TabRecord.h"
 #include "StandIn/Records/WindowRecord.h"
 #include "StandIn/World.h"
 #include <cstdio>
@@ -86,5 +89,29 @@ namespace StandIn
 		char Hex[16];
 		std::snprintf(Hex, sizeof(Hex), "0x%x", Attributes);
 		return "SetFileAttributesW: " + ToUtf8(Path) + " " + Hex;
+	}
+
+	std::string FTabRecord::Describe() const
+	{
+		const std::string Tab = ToUtf8(DisplayName.ToString()) + " (" + ToUtf8(TabId) + ")";
+		switch (Kind)
+		{
+		case EKind::Spawned:
+			return "Tab: " + Tab + " " + std::to_string((int)WindowSize.X) + "x" + std::to_string((int)WindowSize.Y);
+		case EKind::BroughtToFront:
+			return "Tab to front: " + Tab;
+		default:
+			return "Tab closed: " + Tab;
+		}
+	}
+
+	std::string FNotificationRecord::Describe() const
+	{
+		return "Notification: " + ToUtf8(Text.ToString());
+	}
+
+	std::string FBuildToolRecord::Describe() const
+	{
+		return "Build tool: " + ToUtf8(Description.ToString()) + " | " + ToUtf8(Arguments);
 	}
 }

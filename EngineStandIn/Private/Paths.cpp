@@ -1,6 +1,7 @@
 #include "Misc/Paths.h"
 #include "HAL/FileManager.h"
 #include "HAL/PlatformProcess.h"
+#include "StandInPaths.h"
 #include <cwctype>
 
 namespace
@@ -19,8 +20,10 @@ namespace
 		}
 		return ProjectFilePath.Left(LastSeparator + 1);
 	}
+}
 
-	// The engine reports the project folder relative to the binaries folder when both are on one drive.
+namespace StandInPaths
+{
 	FString RelativeToBaseDir(const FString& AbsoluteFolder)
 	{
 		const FString Base = FPlatformProcess::BaseDir();
@@ -52,7 +55,7 @@ namespace
 
 FString FPaths::ProjectDir()
 {
-	return RelativeToBaseDir(ConvertRelativePathToFull(ProjectFolderOf(GetProjectFilePath())));
+	return StandInPaths::RelativeToBaseDir(ConvertRelativePathToFull(ProjectFolderOf(GetProjectFilePath())));
 }
 
 FString FPaths::ProjectPluginsDir()
@@ -164,4 +167,29 @@ bool FPaths::FileExists(const FString& InPath)
 bool FPaths::DirectoryExists(const FString& InPath)
 {
 	return IFileManager::Get().DirectoryExists(*InPath);
+}
+
+FString FPaths::GetPath(const FString& InPath)
+{
+	int32 Separator = InPath.Len() - 1;
+	while (Separator >= 0 && !IsSlashOrBackslash(InPath[Separator]))
+	{
+		--Separator;
+	}
+	return Separator >= 0 ? InPath.Left(Separator) : FString();
+}
+
+FString FPaths::GetBaseFilename(const FString& InPath, bool bRemovePath)
+{
+	FString Name = bRemovePath ? GetCleanFilename(InPath) : InPath;
+	const int32 Dot = Name.Find(TEXT("."), ESearchCase::CaseSensitive, ESearchDir::FromEnd);
+	const int32 Separator = std::max(Name.Find(TEXT("/"), ESearchCase::CaseSensitive, ESearchDir::FromEnd), Name.Find(TEXT("\\"), ESearchCase::CaseSensitive, ESearchDir::FromEnd));
+	return Dot != INDEX_NONE && Dot > Separator ? Name.Left(Dot) : Name;
+}
+
+FString FPaths::GetExtension(const FString& InPath, bool bIncludeDot)
+{
+	const FString Filename = GetCleanFilename(InPath);
+	const int32 Dot = Filename.Find(TEXT("."), ESearchCase::CaseSensitive, ESearchDir::FromEnd);
+	return Dot != INDEX_NONE ? Filename.Mid(bIncludeDot ? Dot : Dot + 1) : FString();
 }

@@ -1,3 +1,4 @@
+#include "Widgets/Images/SImage.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Layout/Children.h"
 #include "SlotBase.h"
@@ -158,4 +159,25 @@ FSlateFontInfo FCoreStyle::GetDefaultFontStyle(const FName InTypefaceFontName, c
 	Font.Size = InSize;
 	Font.OutlineSettings = InOutlineSettings;
 	return Font;
+}
+
+void SImage::Construct(const FArguments& InArgs)
+{
+	Image = InArgs._Image;
+}
+
+TSharedPtr<FGenericWindow> SWindow::GetNativeWindow()
+{
+	return NativeWindow;
+}
+
+TSharedPtr<const FGenericWindow> SWindow::GetNativeWindow() const
+{
+	return NativeWindow;
+}
+
+void SWindow::SetNativeWindow(TSharedRef<FGenericWindow> InNativeWindow)
+{
+	check(!NativeWindow.IsValid());
+	NativeWindow = InNativeWindow;
 }

@@ -4,6 +4,7 @@
 #include "Widgets/Input/SEditableText.h"
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Layout/SBorder.h"
+#include "Widgets/Layout/SBox.h"
 #include "Widgets/Layout/SGridPanel.h"
 #include "Widgets/Layout/SScrollBox.h"
 
@@ -75,5 +76,18 @@ void SEditableText::Construct(const FArguments& InArgs)
 void SEditableTextBox::Construct(const FArguments& InArgs)
 {
 	HintText = InArgs._HintText;
+	OnTextChanged = InArgs._OnTextChanged;
 	OnTextCommitted = InArgs._OnTextCommitted;
+}
+
+void SEditableTextBox::SetError(const FText& InError)
+{
+	ErrorText = InError;
+}
+
+void SBox::Construct(const FArguments& InArgs)
+{
+	WidthOverride = InArgs._WidthOverride;
+	HeightOverride = InArgs._HeightOverride;
+	ChildSlot.Padding(InArgs._Padding)[InArgs._Content.Widget];
 }

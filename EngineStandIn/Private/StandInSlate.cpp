@@ -48,6 +48,7 @@ namespace StandIn
 	FPaintedWidget Paint(const TSharedRef<SWidget>& Widget)
 	{
 		FPaintedWidget Painted;
+		Painted.bIsEnabled = Widget->IsEnabled();
 		if (const FWidgetInspector* Inspector = FindWidgetInspector(Widget.Get()))
 		{
 			Inspector->Paint(Widget.Get(), Painted);
@@ -75,7 +76,8 @@ namespace StandIn
 
 	FReply ClickButton(const TSharedRef<SWidget>& Button)
 	{
-		return InputOf<IClickInput>(Button, "a button").Click(Button.Get());
+		const IClickInput& Input = InputOf<IClickInput>(Button, "a button");
+		return Button->IsEnabled() ? Input.Click(Button.Get()) : FReply::Unhandled();
 	}
 
 	void ClickCheckBox(const TSharedRef<SWidget>& CheckBox)
@@ -117,6 +119,31 @@ namespace StandIn
 	void ClearComboSelection(const TSharedRef<SWidget>& ComboBox)
 	{
 		InputOf<IMenuInput>(ComboBox, "a combo box").ClearSelection(ComboBox.Get());
+	}
+
+	bool SelectListRow(const TSharedRef<SWidget>& List, const FString& ShownRowText)
+	{
+		return InputOf<IListInput>(List, "a list").SelectRow(List.Get(), ShownRowText);
+	}
+
+	std::vector<FMenuEntry> MenuEntries(const TSharedRef<SWidget>& Menu)
+	{
+		return InputOf<IMultiBoxInput>(Menu, "a menu").Entries(Menu.Get());
+	}
+
+	bool ClickMenuEntry(const TSharedRef<SWidget>& Menu, const FString& Label)
+	{
+		const IMultiBoxInput& Input = InputOf<IMultiBoxInput>(Menu, "a menu");
+		const std::vector<FMenuEntry> Entries = Input.Entries(Menu.Get());
+		for (size_t Index = 0; Index < Entries.size(); ++Index)
+		{
+			if (Entries[Index].Kind == FMenuEntry::EKind::Entry && Entries[Index].Label.ToString().Equals(Label, ESearchCase::CaseSensitive))
+			{
+				Input.ClickEntry(Menu.Get(), Index);
+				return true;
+			}
+		}
+		return false;
 	}
 
 	bool CommitText(const TSharedRef<SWidget>& TextWidget, const FString& Text, ETextCommit::Type CommitType)

@@ -1,4 +1,6 @@
+#include "StandInModules.h"
 #include "StandInWorld.h"
+#include "StandInPackages.h"
 #include "StandIn/Records/FileAttributesRecord.h"
 #include "StandIn/Records/LogRecord.h"
 #include "StandIn/Records/MessageBoxRecord.h"
@@ -45,12 +47,17 @@ namespace StandIn
 		State.World = World;
 		State.BaseDirStorage = World.BaseDir;
 		StandInJournal::Clear();
+		StandInPlugins::Forget();
+		StandInPlugins::ForgetMountPoints();
+		StandInTabs::Forget();
 		// Drive C: is always there; other drives exist where the sandbox has their folder.
 		mkdir((World.DriveRoot + "/C").c_str(), 0777);
 		setenv(WindowsDrivePath::DriveRootVariable(), World.DriveRoot.c_str(), 1);
 		const std::string Path = std::string(STANDIN_PROGRAMS_DIR) + ":" + State.OriginalPath;
 		setenv("PATH", Path.c_str(), 1);
 		FPlatformFileManager::Get().SetPlatformFile(IPlatformFile::GetPlatformPhysical());
+		StandInPackages::Reset(World.DirtyPackages);
+		StandInModules::StartEditorModules();
 	}
 
 	const FWorld& GetWorld()
@@ -130,7 +137,7 @@ EAppReturnType::Type FMessageDialog::Open(EAppMsgType::Type MessageType, const F
 
 EAppReturnType::Type FMessageDialog::Open(EAppMsgType::Type MessageType, EAppReturnType::Type DefaultValue, const FText& Message, const FText* OptTitle)
 {
-	StandIn::AppendToJournal(std::make_shared<StandIn::FMessageBoxRecord>(MessageType, Message));
+	StandIn::AppendToJournal(std::make_shared<StandIn::FMessageBoxRecord>(MessageType, Message, OptTitle ? *OptTitle : FText()));
 	return MessageType == EAppMsgType::Ok ? EAppReturnType::Ok : DefaultValue;
 }
 

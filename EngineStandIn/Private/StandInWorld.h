@@ -17,3 +17,16 @@ namespace StandInJournal
 	// Forgets every record; a world reset starts an empty journal.
 	void Clear();
 }
+
+namespace StandInPlugins
+{
+	// A world reset starts with no plugins discovered and nothing but /Engine/ and /Game/ mounted.
+	void Forget();
+	void ForgetMountPoints();
+}
+
+namespace StandInTabs
+{
+	// A world reset starts with no tab spawners, window sizes or open tabs.
+	void Forget();
+}

@@ -34,11 +34,22 @@ public:
 		: Name(InName), BaseDir(InBaseDir) {}
 
 	virtual const FString& GetName() const override { return Name; }
+	virtual const FString& GetDescriptorFileName() const override { return DescriptorFileName; }
 	virtual FString GetBaseDir() const override { return BaseDir; }
+	virtual FString GetContentDir() const override { return BaseDir / TEXT("Content"); }
+	virtual FString GetMountedAssetPath() const override { return TEXT("/") + Name + TEXT("/"); }
+	virtual EPluginType GetType() const override { return EPluginType::Project; }
+	virtual bool IsEnabled() const override { return true; }
+	virtual bool CanContainContent() const override { return true; }
+	virtual EPluginLoadedFrom GetLoadedFrom() const override { return EPluginLoadedFrom::Project; }
+	virtual const FPluginDescriptor& GetDescriptor() const override { return Descriptor; }
+	virtual bool UpdateDescriptor(const FPluginDescriptor& NewDescriptor, FText& OutFailReason) override { return false; }
 
 private:
 	FString Name;
 	FString BaseDir;
+	FString DescriptorFileName = BaseDir / Name + TEXT(".uplugin");
+	FPluginDescriptor Descriptor;
 };
 
 inline std::string Utf8(const FString& Text)

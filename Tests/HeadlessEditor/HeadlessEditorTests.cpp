@@ -117,18 +117,24 @@ TEST_F(FHeadlessEditorTest, DistributesTheSampleThroughTheDialogAndPrintsTheSess
 TEST_F(FHeadlessEditorTest, APluginTheDialogDoesNotOfferIsAnErrorAndNothingIsDistributed)
 {
 	const FRun Run = this->Run({"--root", Sandbox().string(), "distribute", "--plugin", "CalverlyBranchLine", "--plugin", "SignalBoxPack"});
+
 	EXPECT_EQ(Run.ExitCode, 2);
 	EXPECT_NE(Run.Err.find("SignalBoxPack"), std::string::npos) << Run.Err;
 	EXPECT_EQ(Run.Out.find("Message: "), std::string::npos) << Run.Out;
 	EXPECT_FALSE(fs::exists(Drive("Work/Moravane-WindowsNoEditor-CalverlyBranchLine.pak")));
 	EXPECT_FALSE(fs::exists(Drive("pellow")));
+}
 
+TEST_F(FHeadlessEditorTest, WithNothingCookedThePluginIsAnErrorAfterTheDialogsMessage)
+{
 	fs::remove_all(Drive("Work/Moravane/Plugins"));
 	fs::create_directories(Drive("Work/Moravane/Plugins"));
-	const FRun Empty = this->Run({"--root", Sandbox().string(), "distribute", "--plugin", "CalverlyBranchLine"});
-	EXPECT_EQ(Empty.ExitCode, 2);
-	EXPECT_NE(Empty.Out.find("Message: No cooked plugins available.\n"), std::string::npos) << Empty.Out;
-	EXPECT_NE(Empty.Err.find("CalverlyBranchLine"), std::string::npos) << Empty.Err;
+
+	const FRun Run = this->Run({"--root", Sandbox().string(), "distribute", "--plugin", "CalverlyBranchLine"});
+
+	EXPECT_EQ(Run.ExitCode, 2);
+	EXPECT_NE(Run.Out.find("Message: No cooked plugins available.\n"), std::string::npos) << Run.Out;
+	EXPECT_NE(Run.Err.find("CalverlyBranchLine"), std::string::npos) << Run.Err;
 }
 
 TEST_F(FHeadlessEditorTest, WithoutPluginsDistributeShowsTheDialogsMessageWhereverTheEditorOptionsStand)
@@ -139,13 +145,17 @@ TEST_F(FHeadlessEditorTest, WithoutPluginsDistributeShowsTheDialogsMessageWherev
 	EXPECT_FALSE(fs::exists(Drive("Work/Moravane-WindowsNoEditor-.pak")));
 }
 
-TEST_F(FHeadlessEditorTest, UsageErrorsExitWithTwoAndHelpDescribesTheCommandLine)
+TEST_F(FHeadlessEditorTest, HelpDescribesTheCommandLine)
 {
 	const FRun Help = Run({"--help"});
-	EXPECT_EQ(Help.ExitCode, 0);
-	EXPECT_NE(Help.Out.find("ugc-editor --root DIR [--launch-dir PATH] [--project PATH]"), std::string::npos);
-	EXPECT_NE(Help.Out.find("distribute [--calverly5] [--plugin NAME [--original] [--dlcs TEXT]]..."), std::string::npos);
 
+	EXPECT_EQ(Help.ExitCode, 0);
+	EXPECT_NE(Help.Out.find("ugc-editor --root DIR [--launch-dir PATH] [--project PATH]"), std::string::npos) << Help.Out;
+	EXPECT_NE(Help.Out.find("distribute [--calverly5] [--plugin NAME [--original] [--dlcs TEXT]]..."), std::string::npos) << Help.Out;
+}
+
+TEST_F(FHeadlessEditorTest, UsageErrorsExitWithTwoAndSaySoOnTheErrorStreamOnly)
+{
 	const std::vector<std::vector<std::string>> Wrong = {
 		{"distribute"},
 		{"--root", Sandbox().string()},
@@ -161,6 +171,6 @@ TEST_F(FHeadlessEditorTest, UsageErrorsExitWithTwoAndHelpDescribesTheCommandLine
 		const FRun Run = this->Run(Arguments);
 		EXPECT_EQ(Run.ExitCode, 2) << Arguments.back();
 		EXPECT_EQ(Run.Err.rfind("ugc-editor: ", 0), 0u) << Run.Err;
-		EXPECT_EQ(Run.Out, "");
+		EXPECT_EQ(Run.Out, "") << Arguments.back();
 	}
 }

@@ -25,17 +25,26 @@ namespace
 	}
 }
 
-TEST_F(FStandInFileTest, SaveStringToFileWritesSevenBitTextAsBytesAndOtherTextAsUtf16)
+TEST_F(FStandInFileTest, SaveStringToFileWritesSevenBitTextAsPlainBytes)
 {
 	ASSERT_TRUE(FFileHelper::SaveStringToFile(FString(TEXT("{\n  \"a\": 1\n}")), TEXT("C:/out/ascii.txt")));
+
 	EXPECT_EQ(ReadFile("C:/out/ascii.txt"), "{\n  \"a\": 1\n}");
 	EXPECT_EQ(Encoding(Host("C:/out/ascii.txt")), "us-ascii\n");
+}
 
+TEST_F(FStandInFileTest, SaveStringToFileWritesOtherTextAsUtf16WithAByteOrderMark)
+{
 	ASSERT_TRUE(FFileHelper::SaveStringToFile(FString(TEXT("ř\x00e9")), TEXT("C:/out/wide.txt")));
+
 	EXPECT_EQ(ReadFile("C:/out/wide.txt"), std::string("\xFF\xFE\x59\x01\xE9\x00", 6));
 	EXPECT_EQ(Encoding(Host("C:/out/wide.txt")), "utf-16le\n");
+}
 
+TEST_F(FStandInFileTest, SaveStringToFileOfAnEmptyStringLeavesAnEmptyFile)
+{
 	ASSERT_TRUE(FFileHelper::SaveStringToFile(FString(), TEXT("C:/out/empty.txt")));
+
 	EXPECT_TRUE(Exists("C:/out/empty.txt"));
 	EXPECT_EQ(ReadFile("C:/out/empty.txt"), "");
 }
@@ -66,25 +75,42 @@ TEST_F(FStandInFileTest, FindFilesRecursiveListsFoldersFirstInNameOrderAndFollow
 										"C:/Stage/Link/Content/b.uasset",
 										"C:/Stage/Link/Content/Maps/m",
 									}));
-
-	IFileManager::Get().FindFilesRecursive(Found, TEXT("C:/Missing"), TEXT("*.*"), true, false, true);
-	EXPECT_EQ(Found.Num(), 0);
 }
 
-TEST_F(FStandInFileTest, ThePlatformFileChainCreatesTreesAndDeletesOnlyFiles)
+TEST_F(FStandInFileTest, FindFilesRecursiveInAMissingFolderFindsNothingAndClearsTheListWhenAsked)
+{
+	TArray<FString> Found;
+	Found.Add(TEXT("kept"));
+
+	IFileManager::Get().FindFilesRecursive(Found, TEXT("C:/Missing"), TEXT("*.*"), true, false, true);
+
+	EXPECT_EQ(ToUtf8Strings(Found), std::vector<std::string>{});
+}
+
+TEST_F(FStandInFileTest, ThePlatformFileChainIsThePhysicalLayerAndCreatesWholeTrees)
 {
 	IPlatformFile& PlatformFile = FPlatformFileManager::Get().GetPlatformFile();
 	EXPECT_EQ(&PlatformFile, &IPlatformFile::GetPlatformPhysical());
+
 	EXPECT_TRUE(PlatformFile.CreateDirectoryTree(TEXT("C:/pellow/Moravane/Plugins/DLC")));
+
 	EXPECT_TRUE(std::filesystem::is_directory(Host("C:/pellow/Moravane/Plugins/DLC")));
 	EXPECT_TRUE(PlatformFile.DirectoryExists(TEXT("C:/pellow/")));
 	EXPECT_FALSE(PlatformFile.FileExists(TEXT("C:/pellow")));
+}
 
+TEST_F(FStandInFileTest, RelativeFileNamesAreTakenFromTheBinariesFolder)
+{
 	WriteFile("C:/Work/Engine/Binaries/Win64/relative.txt", "found from the binaries folder");
+
 	EXPECT_TRUE(IFileManager::Get().FileExists(TEXT("relative.txt")));
-	EXPECT_TRUE(IFileManager::Get().Delete(TEXT("C:/Work/Engine/Binaries/Win64/relative.txt")));
+	EXPECT_TRUE(IFileManager::Get().Delete(TEXT("relative.txt")));
 	EXPECT_FALSE(Exists("C:/Work/Engine/Binaries/Win64/relative.txt"));
-	EXPECT_TRUE(IFileManager::Get().Delete(TEXT("C:/nothing.txt"))) << "a missing file is not required to exist";
+	EXPECT_FALSE(IFileManager::Get().FileExists(TEXT(""))) << "the empty name is the binaries folder itself";
+}
+
+TEST_F(FStandInFileTest, DeletingAMissingFileSucceedsUnlessTheFileIsRequiredToExist)
+{
+	EXPECT_TRUE(IFileManager::Get().Delete(TEXT("C:/nothing.txt")));
 	EXPECT_FALSE(IFileManager::Get().Delete(TEXT("C:/nothing.txt"), true, false, true));
-	EXPECT_FALSE(IFileManager::Get().FileExists(TEXT("")));
 }

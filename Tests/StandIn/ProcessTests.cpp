@@ -110,19 +110,28 @@ TEST_F(FStandInProcessTest, AUrlThatAlreadyStartsWithAQuoteIsNotQuotedAgain)
 	EXPECT_EQ(ToolCallArguments("C:/Program Files/Tools/Recorder.exe", 1), (std::vector<std::string>{"-x"}));
 }
 
-TEST_F(FStandInProcessTest, AProgramThatCannotStartGivesFalseAndTheWindowsError)
+TEST_F(FStandInProcessTest, AProgramInAMissingFolderCannotStartAndGivesPathNotFound)
 {
 	int32 ReturnCode = 0;
 	FString StdOut = TEXT("untouched");
-	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("C:/Work/Engine/Binaries/Win64/UnrealPak.exe"), TEXT("-create=x"), &ReturnCode, &StdOut, nullptr));
-	EXPECT_EQ(ReturnCode, 3) << "the folder is missing too";
-	EXPECT_TRUE(StdOut.Equals(TEXT("untouched"), ESearchCase::CaseSensitive));
 
+	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("C:/Work/Engine/Binaries/Win64/UnrealPak.exe"), TEXT("-create=x"), &ReturnCode, &StdOut, nullptr));
+
+	EXPECT_EQ(ReturnCode, 3);
+	EXPECT_EQ(StandIn::ToUtf8(StdOut), "untouched");
+}
+
+TEST_F(FStandInProcessTest, AMissingProgramCannotStartAndGivesFileNotFound)
+{
 	std::filesystem::create_directories(Host("C:/Work/Engine/Binaries/Win64"));
-	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("C:/Work/Engine/Binaries/Win64/UnrealPak.exe"), TEXT(""), &ReturnCode, nullptr, nullptr));
-	EXPECT_EQ(ReturnCode, 2);
-	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("no-such-program.exe"), TEXT(""), &ReturnCode, nullptr, nullptr));
-	EXPECT_EQ(ReturnCode, 2);
+	int32 InFolder = 0;
+	int32 OnPath = 0;
+
+	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("C:/Work/Engine/Binaries/Win64/UnrealPak.exe"), TEXT(""), &InFolder, nullptr, nullptr));
+	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("no-such-program.exe"), TEXT(""), &OnPath, nullptr, nullptr));
+
+	EXPECT_EQ(InFolder, 2);
+	EXPECT_EQ(OnPath, 2);
 }
 
 TEST_F(FStandInProcessTest, AProgramThatCannotStartIsJournaledBeforeTheWarningsThatSayWhy)

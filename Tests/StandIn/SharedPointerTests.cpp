@@ -41,15 +41,16 @@ TEST(StandInSharedPointers, ADelegateBoundToAnObjectThatIsGoneIsUnbound)
 	EXPECT_FALSE(ByRef.ExecuteIfBound(1));
 }
 
-TEST(StandInFunctionTest, ACopyOfAMutableFunctionCallsTheSameFunctor)
+TEST(StandInFunctionTest, ACopyOfAMutableFunctionHasAFunctorOfItsOwn)
 {
-	int32 Calls = 0;
-	TFunction<int32()> Original = [&Calls]() {
+	TFunction<int32()> Original = [Calls = 0]() mutable {
 		return ++Calls;
 	};
+	EXPECT_EQ(Original(), 1);
 
 	TFunction<int32()> Copy = Original;
 
-	EXPECT_EQ(Copy(), 1);
-	EXPECT_EQ(Original(), 2);
+	EXPECT_EQ(Copy(), 2);
+	EXPECT_EQ(Copy(), 3);
+	EXPECT_EQ(Original(), 2) << "the copy's calls did not reach the original";
 }

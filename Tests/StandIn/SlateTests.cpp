@@ -9,33 +9,58 @@
 
 // The engine behaviour that the stand-in's widgets reproduce.
 
-TEST_F(FSandboxTest, UnboundCheckBoxKeepsAndTogglesItsOwnState)
+TEST_F(FSandboxTest, UnboundCheckBoxTogglesItsOwnStateAndReportsEachChange)
 {
 	std::vector<ECheckBoxState> Events;
-	const auto Record = [&Events](ECheckBoxState State) {
+	const TSharedRef<SWidget> Free = SNew(SCheckBox).OnCheckStateChanged_Lambda([&Events](ECheckBoxState State) {
 		Events.push_back(State);
-	};
-	const TSharedRef<SWidget> Free = SNew(SCheckBox).OnCheckStateChanged_Lambda(Record);
-	const TSharedRef<SWidget> Undetermined = SNew(SCheckBox).IsChecked(ECheckBoxState::Undetermined).OnCheckStateChanged_Lambda(Record);
-	const auto AlwaysChecked = []() {
-		return ECheckBoxState::Checked;
-	};
-	const TSharedRef<SWidget> Bound = SNew(SCheckBox).IsChecked_Lambda(AlwaysChecked).OnCheckStateChanged_Lambda(Record);
+	});
 
 	StandIn::ClickCheckBox(Free);
-	EXPECT_EQ(StandIn::Paint(Free).CheckState, ECheckBoxState::Checked);
+	const ECheckBoxState AfterOneClick = StandIn::Paint(Free).CheckState;
 	StandIn::ClickCheckBox(Free);
+
+	EXPECT_EQ(AfterOneClick, ECheckBoxState::Checked);
 	EXPECT_EQ(StandIn::Paint(Free).CheckState, ECheckBoxState::Unchecked);
-	StandIn::ClickCheckBox(Undetermined);
-	EXPECT_EQ(StandIn::Paint(Undetermined).CheckState, ECheckBoxState::Unchecked);
+	EXPECT_EQ(Events, (std::vector<ECheckBoxState>{ECheckBoxState::Checked, ECheckBoxState::Unchecked}));
+}
+
+TEST_F(FSandboxTest, BoundCheckBoxShowsItsBindingThoughAClickReportsTheToggle)
+{
+	std::vector<ECheckBoxState> Events;
+	const TSharedRef<SWidget> Bound = SNew(SCheckBox).IsChecked_Lambda([]() {
+														 return ECheckBoxState::Checked;
+													 })
+										  .OnCheckStateChanged_Lambda([&Events](ECheckBoxState State) {
+											  Events.push_back(State);
+										  });
+
 	StandIn::ClickCheckBox(Bound);
+
 	EXPECT_EQ(StandIn::Paint(Bound).CheckState, ECheckBoxState::Checked);
-	EXPECT_EQ(Events, (std::vector<ECheckBoxState>{ECheckBoxState::Checked, ECheckBoxState::Unchecked, ECheckBoxState::Unchecked, ECheckBoxState::Unchecked}));
+	EXPECT_EQ(Events, (std::vector<ECheckBoxState>{ECheckBoxState::Unchecked}));
 }
 
 TEST_F(FSandboxTest, ComboBoxListsItsOptionsAsTheyAreWhenItOpens)
 {
 	TArray<TSharedPtr<FString>> Options = {MakeShareable(new FString(TEXT("One")))};
+	const TSharedRef<SWidget> Combo = SNew(SComboBox<TSharedPtr<FString>>).OptionsSource(&Options).OnGenerateWidget_Lambda([](TSharedPtr<FString> Option) -> TSharedRef<SWidget> {
+		return SNew(SEditableText).Text(FText::FromString(*Option));
+	});
+	Options.Add(MakeShareable(new FString(TEXT("Two"))));
+
+	std::vector<std::string> Shown;
+	for (const TSharedRef<SWidget>& Row : StandIn::OpenComboBox(Combo))
+	{
+		Shown.push_back(StandIn::ToUtf8(StandIn::ShownText(Row).ToString()));
+	}
+
+	EXPECT_EQ(Shown, (std::vector<std::string>{"One", "Two"}));
+}
+
+TEST_F(FSandboxTest, ComboBoxReportsANewChoiceAsAMouseClickAndTheSameChoiceNotAtAll)
+{
+	TArray<TSharedPtr<FString>> Options = {MakeShareable(new FString(TEXT("One"))), MakeShareable(new FString(TEXT("Two")))};
 	std::vector<std::pair<std::string, ESelectInfo::Type>> Selections;
 	const auto MakeRow = [](TSharedPtr<FString> Option) -> TSharedRef<SWidget> {
 		return SNew(SEditableText).Text(FText::FromString(*Option));
@@ -44,18 +69,13 @@ TEST_F(FSandboxTest, ComboBoxListsItsOptionsAsTheyAreWhenItOpens)
 		Selections.emplace_back(StandIn::ToUtf8(*Option), Info);
 	};
 	const TSharedRef<SWidget> Combo = SNew(SComboBox<TSharedPtr<FString>>).OptionsSource(&Options).OnGenerateWidget_Lambda(MakeRow).OnSelectionChanged_Lambda(RecordSelection);
-	Options.Add(MakeShareable(new FString(TEXT("Two"))));
-
-	const std::vector<TSharedRef<SWidget>> Rows = StandIn::OpenComboBox(Combo);
-	ASSERT_EQ(Rows.size(), 2u);
-	EXPECT_EQ(StandIn::ToUtf8(StandIn::ShownText(Rows[1]).ToString()), "Two");
 
 	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, TEXT("Two")));
 	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, 1));
 	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, 0));
-	EXPECT_FALSE(StandIn::ChooseComboOption(Combo, TEXT("Three")));
+	EXPECT_FALSE(StandIn::ChooseComboOption(Combo, TEXT("two")));
 	EXPECT_FALSE(StandIn::ChooseComboOption(Combo, 2));
-	// Choosing the selected option again fires nothing.
+
 	EXPECT_EQ(Selections, (std::vector<std::pair<std::string, ESelectInfo::Type>>{{"Two", ESelectInfo::OnMouseClick}, {"One", ESelectInfo::OnMouseClick}}));
 }
 
@@ -96,13 +116,12 @@ TEST_F(FSandboxTest, ClearedComboSelectionIsReportedAsANullOptionOnlyWhenThereWa
 	EXPECT_EQ(Selections, (std::vector<std::pair<std::string, ESelectInfo::Type>>{{"One", ESelectInfo::OnMouseClick}, {"null", ESelectInfo::Direct}, {"One", ESelectInfo::OnMouseClick}}));
 }
 
-TEST_F(FSandboxTest, BoxSlotsStretchByDefaultAndClearTogether)
+TEST_F(FSandboxTest, BoxSlotsStretchByDefaultAndKeepTheirPadding)
 {
 	TSharedPtr<SVerticalBox> Exposed;
 	const TSharedRef<SWidget> Box = SAssignNew(Exposed, SVerticalBox) + SVerticalBox::Slot().Padding(3)[SNew(SButton)];
 	Exposed->AddSlot()[SNew(SHorizontalBox) + SHorizontalBox::Slot().FillWidth(0.25f)[SNew(SCheckBox)]];
 
-	EXPECT_EQ(Exposed, TSharedPtr<SWidget>(Box));
 	const std::vector<StandIn::FChildSlot> Slots = StandIn::ChildSlots(Box);
 	ASSERT_EQ(Slots.size(), 2u);
 	EXPECT_EQ(StandIn::WidgetType(Slots[0].Widget), "SButton");
@@ -110,40 +129,63 @@ TEST_F(FSandboxTest, BoxSlotsStretchByDefaultAndClearTogether)
 	EXPECT_EQ(Slots[1].Padding, FMargin(0));
 	EXPECT_FLOAT_EQ(Slots[1].Fill, 1.0f);
 	EXPECT_FLOAT_EQ(StandIn::ChildSlots(Slots[1].Widget).at(0).Fill, 0.25f);
-
-	Exposed->ClearChildren();
-	EXPECT_EQ(Exposed->NumSlots(), 0);
 }
 
-TEST_F(FSandboxTest, TextWidgetsTakeTypingUnlessReadOnlyAndBoundTextIsReadAtEachPaint)
+TEST_F(FSandboxTest, ClearChildrenEmptiesABoxAtOnce)
+{
+	TSharedPtr<SVerticalBox> Box;
+	SAssignNew(Box, SVerticalBox) + SVerticalBox::Slot()[SNew(SButton)] + SVerticalBox::Slot()[SNew(SCheckBox)];
+
+	Box->ClearChildren();
+
+	EXPECT_EQ(StandIn::ChildSlots(Box.ToSharedRef()).size(), 0u);
+}
+
+TEST_F(FSandboxTest, BoundTextIsReadAgainAtEachPaint)
 {
 	int32 Paints = 0;
-	const auto CountPaints = [&Paints]() {
+	const TSharedRef<SWidget> Bound = SNew(SEditableText).Text_Lambda([&Paints]() {
 		return FText::FromString(FString::Printf(TEXT("Paint %d"), ++Paints));
-	};
-	const TSharedRef<SWidget> Bound = SNew(SEditableText).Text_Lambda(CountPaints);
-	EXPECT_EQ(StandIn::ToUtf8(StandIn::Paint(Bound).Text.ToString()), "Paint 1");
-	EXPECT_EQ(StandIn::ToUtf8(StandIn::Paint(Bound).Text.ToString()), "Paint 2");
+	});
 
+	const std::string First = StandIn::ToUtf8(StandIn::Paint(Bound).Text.ToString());
+	const std::string Second = StandIn::ToUtf8(StandIn::Paint(Bound).Text.ToString());
+
+	EXPECT_EQ(First, "Paint 1");
+	EXPECT_EQ(Second, "Paint 2");
+}
+
+TEST_F(FSandboxTest, ReadOnlyTextRefusesTyping)
+{
 	const TSharedRef<SWidget> ReadOnly = SNew(SEditableText).Text(FText::FromString(TEXT("Label"))).IsReadOnly(true);
-	EXPECT_FALSE(StandIn::CommitText(ReadOnly, TEXT("Typed")));
-	EXPECT_EQ(StandIn::ToUtf8(StandIn::ShownText(ReadOnly).ToString()), "Label");
 
+	EXPECT_FALSE(StandIn::CommitText(ReadOnly, TEXT("Typed")));
+
+	EXPECT_EQ(StandIn::ToUtf8(StandIn::ShownText(ReadOnly).ToString()), "Label");
+}
+
+TEST_F(FSandboxTest, TextBoxShowsWhatWasTypedAndReportsTheCommitWithItsKind)
+{
 	std::vector<std::pair<std::string, ETextCommit::Type>> Commits;
-	const auto RecordCommit = [&Commits](const FText& Text, ETextCommit::Type Type) {
+	const TSharedRef<SWidget> TextBox = SNew(SEditableTextBox).OnTextCommitted_Lambda([&Commits](const FText& Text, ETextCommit::Type Type) {
 		Commits.emplace_back(StandIn::ToUtf8(Text.ToString()), Type);
-	};
-	const TSharedRef<SWidget> TextBox = SNew(SEditableTextBox).OnTextCommitted_Lambda(RecordCommit);
+	});
+
 	EXPECT_TRUE(StandIn::CommitText(TextBox, TEXT("Typed"), ETextCommit::OnUserMovedFocus));
+
 	EXPECT_EQ(StandIn::ToUtf8(StandIn::ShownText(TextBox).ToString()), "Typed");
 	EXPECT_EQ(Commits, (std::vector<std::pair<std::string, ETextCommit::Type>>{{"Typed", ETextCommit::OnUserMovedFocus}}));
 }
 
-TEST_F(FSandboxTest, CoreStyleKnowsItsButtonStylesAndFallsBackToTheDefault)
+TEST_F(FSandboxTest, CoreStyleFindsButtonStylesWhateverTheCaseAndFallsBackToTheDefault)
 {
 	const ISlateStyle& Style = FCoreStyle::Get();
 	EXPECT_NE(&Style.GetWidgetStyle<FButtonStyle>("NoBorder"), &Style.GetWidgetStyle<FButtonStyle>("Button"));
 	EXPECT_EQ(&Style.GetWidgetStyle<FButtonStyle>("NoBorder"), &Style.GetWidgetStyle<FButtonStyle>("noborder"));
 	EXPECT_EQ(&Style.GetWidgetStyle<FButtonStyle>("NoSuchStyle"), &FButtonStyle::GetDefault());
-	EXPECT_EQ(StandIn::Paint(SNew(SButton)).ButtonStyle, &Style.GetWidgetStyle<FButtonStyle>("Button"));
+}
+
+TEST_F(FSandboxTest, AButtonWithoutAStyleTakesTheCoreStylesButton)
+{
+	EXPECT_EQ(StandIn::Paint(SNew(SButton)).ButtonStyle, &FCoreStyle::Get().GetWidgetStyle<FButtonStyle>("Button"));
 }

@@ -11,6 +11,7 @@
 
 namespace StandIn
 {
+	// A disabled button takes no click: nothing happens and the reply is unhandled.
 	FReply ClickButton(const TSharedRef<SWidget>& Button);
 
 	// A click on the box: checked or undetermined becomes unchecked, unchecked becomes checked.
@@ -31,5 +32,14 @@ namespace StandIn
 
 	// Replaces the contents of an editable text or text box as a user's typing would, then commits them;
 	// false, with nothing changed, when the text is read-only.
+	// Adds the row that shows the text to a list's selection, as a click (with Ctrl held, in a list that
+	// allows several) does; false when no row shows it.
+	bool SelectListRow(const TSharedRef<SWidget>& List, const FString& ShownRowText);
+
 	bool CommitText(const TSharedRef<SWidget>& TextWidget, const FString& Text, ETextCommit::Type CommitType = ETextCommit::OnEnter);
+
+	// Clicks the first entry of a menu widget (what FMenuBuilder::MakeWidget returned) that shows this label:
+	// the entry's command runs its action in the command list the entry was added with, if that list maps
+	// it. False when no entry shows the label.
+	bool ClickMenuEntry(const TSharedRef<SWidget>& Menu, const FString& Label);
 }

@@ -4,6 +4,7 @@
 #include "CoreMinimal.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Layout/Margin.h"
+#include "Styling/SlateBrush.h"
 #include "Styling/SlateColor.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/SWidget.h"
@@ -42,8 +43,45 @@ namespace StandIn
 		bool bIsReadOnly = false;
 		const FButtonStyle* ButtonStyle = nullptr;
 		ECheckBoxState CheckState = ECheckBoxState::Unchecked;
+		// False when the widget takes no input (its IsEnabled, asked again).
+		bool bIsEnabled = true;
+		// An editable text box's error.
+		FText ErrorText;
+		// What an image draws; null draws nothing.
+		const FSlateBrush* Image = nullptr;
+		// A box's overrides, when set.
+		std::optional<float> WidthOverride;
+		std::optional<float> HeightOverride;
+		// A list's rows in order, and the rows selected, in the order they were selected.
+		std::vector<FText> ListRows;
+		std::vector<FText> SelectedListRows;
 	};
 	FPaintedWidget Paint(const TSharedRef<SWidget>& Widget);
 	// The text the widget shows, or else the first non-empty text below it (depth first).
 	FText ShownText(const TSharedRef<SWidget>& Widget);
+
+	// A line of a menu that FMenuBuilder made, as the open menu shows it.
+	struct FMenuEntry
+	{
+		enum class EKind
+		{
+			Heading,
+			Separator,
+			Entry
+		};
+		EKind Kind = EKind::Entry;
+		// A heading's text, or an entry's label: the label override if it was given, else the command's.
+		FText Label;
+		// The tooltip override if it was given, else the command's description.
+		FText ToolTip;
+		// The icon override if it was given, else the command's icon; names none when neither is set.
+		FName IconStyleSetName;
+		FName IconStyleName;
+		// What that icon resolves to, null without an icon. A brush without a resource (such as the
+		// style defaults' no-brush) draws nothing.
+		const FSlateBrush* IconBrush = nullptr;
+	};
+	// The lines of a menu widget (what FMenuBuilder::MakeWidget returned), in order; the hidden search box
+	// is not among them.
+	std::vector<FMenuEntry> MenuEntries(const TSharedRef<SWidget>& Menu);
 }

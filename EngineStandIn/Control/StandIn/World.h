@@ -5,9 +5,28 @@
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace StandIn
 {
+	// A package the editor holds with changes not yet saved.
+	struct FDirtyPackage
+	{
+		// "/MyRoute/Maps/Main"
+		FString LongPackageName;
+		// A map is a world package; anything else is a content package.
+		bool bIsMap = false;
+	};
+
+	// The button the user clicks in the save prompt: "Save Selected" with every package ticked, "Don't
+	// Save" (offered only when the prompt can be declined) or "Cancel".
+	enum class ESavePromptAnswer
+	{
+		SaveAll,
+		DontSave,
+		Cancel
+	};
+
 	struct FWorld
 	{
 		// Host folder that holds the drives: "C:/x" is the host file "<DriveRoot>/C/x".
@@ -22,6 +41,12 @@ namespace StandIn
 		std::map<std::pair<std::string, std::string>, std::string> Translations;
 		// Whether Slate is up (FSlateApplication::IsInitialized); a test brings it up when it needs the renderer.
 		bool bSlateInitialized = false;
+		// Whether the engine's PluginBrowser module is loaded, as when its plugin is enabled.
+		bool bPluginBrowserLoaded = true;
+		// The editor's unsaved packages, in the order the editor lists them; saving one clears its dirty state.
+		std::vector<FDirtyPackage> DirtyPackages;
+		// How the user answers every save prompt.
+		ESavePromptAnswer SavePromptAnswer = ESavePromptAnswer::SaveAll;
 	};
 
 	// Starts a fresh world: drive C: present, the journal emptied, the physical layer on top of the
@@ -29,6 +54,12 @@ namespace StandIn
 	// programs.
 	void ResetWorld(const FWorld& World);
 	const FWorld& GetWorld();
+
+	// What the engine's plugin manager does at start-up: finds the plugins of the world's engine
+	// (<launch>/Engine/Plugins), of its project (Plugins, Mods, and the project file's
+	// AdditionalPluginDirectories), enables them as the project file and their descriptors say, and mounts
+	// the content of the enabled ones. A world without a project file counts as a project that lists nothing.
+	void DiscoverPlugins();
 
 	// Host path of a Windows path ("C:/Work/x" -> "<DriveRoot>/C/Work/x"); relative paths are taken from
 	// the editor's current directory.

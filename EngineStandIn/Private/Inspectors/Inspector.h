@@ -67,6 +67,24 @@ namespace StandIn
 		virtual void ClearSelection(SWidget& ComboBox) const = 0;
 	};
 
+	class IListInput
+	{
+	public:
+		virtual ~IListInput() = default;
+		// False when no row shows the text.
+		virtual bool SelectRow(SWidget& List, const FString& ShownRowText) const = 0;
+	};
+
+	// What a menu shows and the clicks it takes.
+	class IMultiBoxInput
+	{
+	public:
+		virtual ~IMultiBoxInput() = default;
+		virtual std::vector<FMenuEntry> Entries(SWidget& Menu) const = 0;
+		// The entry at this index of Entries().
+		virtual void ClickEntry(SWidget& Menu, size_t EntryIndex) const = 0;
+	};
+
 	class ITextInput
 	{
 	public:

@@ -3,11 +3,15 @@
 namespace StandIn
 {
 	// Each defined in the file of the same name beside this one.
+	const FWidgetInspector& BoxInspector();
 	const FWidgetInspector& ButtonInspector();
 	const FWidgetInspector& CheckBoxInspector();
 	const FWidgetInspector& ComboButtonInspector();
 	const FWidgetInspector& EditableTextInspector();
 	const FWidgetInspector& EditableTextBoxInspector();
+	const FWidgetInspector& ImageInspector();
+	const FWidgetInspector& PluginTemplateListInspector();
+	const FWidgetInspector& MultiBoxWidgetInspector();
 	const FWidgetInspector& WindowInspector();
 
 	const FSlotInspector& BoxPanelSlotInspector();
@@ -20,11 +24,15 @@ namespace StandIn
 	const FWidgetInspector* FindWidgetInspector(SWidget& Widget)
 	{
 		static const std::vector<const FWidgetInspector*> Inspectors = {
+			&BoxInspector(),
 			&ButtonInspector(),
 			&CheckBoxInspector(),
 			&ComboButtonInspector(),
 			&EditableTextInspector(),
 			&EditableTextBoxInspector(),
+			&ImageInspector(),
+			&PluginTemplateListInspector(),
+			&MultiBoxWidgetInspector(),
 			&WindowInspector(),
 		};
 		for (const FWidgetInspector* Inspector : Inspectors)

@@ -11,6 +11,7 @@ namespace StandIn
 			const SEditableTextBox& TextBox = As(Widget);
 			Painted.Text = TextBox.EditedText;
 			Painted.HintText = TextBox.HintText.Get();
+			Painted.ErrorText = TextBox.ErrorText;
 		}
 
 		virtual bool ShowsText(SWidget& Widget) const override { return true; }
@@ -19,6 +20,7 @@ namespace StandIn
 		{
 			SEditableTextBox& TextBox = As(Widget);
 			TextBox.EditedText = Text;
+			TextBox.OnTextChanged.ExecuteIfBound(Text);
 			TextBox.OnTextCommitted.ExecuteIfBound(Text, CommitType);
 			return true;
 		}

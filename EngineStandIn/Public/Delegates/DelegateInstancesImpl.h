@@ -43,6 +43,37 @@ private:
 	std::tuple<VarTypes...> Payload;
 };
 
+template <bool bConst, class UserClass, typename FuncType, typename... VarTypes>
+class TBaseRawMethodDelegateInstance;
+
+// Holds a plain pointer: the caller keeps the object alive for as long as the delegate may run.
+template <bool bConst, class UserClass, typename WrappedRetValType, typename... ParamTypes, typename... VarTypes>
+class TBaseRawMethodDelegateInstance<bConst, UserClass, WrappedRetValType(ParamTypes...), VarTypes...> : public IBaseDelegateInstance<WrappedRetValType(ParamTypes...)>
+{
+public:
+	typedef typename TMemFunPtrType<bConst, UserClass, WrappedRetValType(ParamTypes..., VarTypes...)>::Type FMethodPtr;
+
+	TBaseRawMethodDelegateInstance(UserClass* InUserObject, FMethodPtr InMethodPtr, VarTypes... Vars)
+		: UserObject(InUserObject), MethodPtr(InMethodPtr), Payload(Vars...)
+	{
+		check(InUserObject != nullptr && InMethodPtr != nullptr);
+	}
+
+	virtual WrappedRetValType Execute(ParamTypes... Params) const override
+	{
+		return std::apply([&](const VarTypes&... Vars) -> WrappedRetValType {
+			return (UserObject->*MethodPtr)(std::forward<ParamTypes>(Params)..., Vars...);
+		},
+						  Payload);
+	}
+	virtual bool IsSafeToExecute() const override { return true; }
+
+private:
+	UserClass* UserObject;
+	FMethodPtr MethodPtr;
+	std::tuple<VarTypes...> Payload;
+};
+
 template <typename FuncType, typename FunctorType, typename... VarTypes>
 class TBaseFunctorDelegateInstance;
 

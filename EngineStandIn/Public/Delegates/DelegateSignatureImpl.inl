@@ -40,6 +40,20 @@ public:
 	}
 
 	template <typename UserClass, typename... VarTypes>
+	UE_NODISCARD static TBaseDelegate<RetValType, ParamTypes...> CreateRaw(UserClass* InUserObject, typename TMemFunPtrType<false, UserClass, RetValType(ParamTypes..., VarTypes...)>::Type InFunc, VarTypes... Vars)
+	{
+		static_assert(!std::is_const<UserClass>::value, "Attempting to bind a delegate with a const object pointer and non-const member function.");
+		typedef TBaseRawMethodDelegateInstance<false, UserClass, TFuncType, VarTypes...> FInstance;
+		return TBaseDelegate(std::make_shared<FInstance>(InUserObject, InFunc, Vars...));
+	}
+	template <typename UserClass, typename... VarTypes>
+	UE_NODISCARD static TBaseDelegate<RetValType, ParamTypes...> CreateRaw(const UserClass* InUserObject, typename TMemFunPtrType<true, UserClass, RetValType(ParamTypes..., VarTypes...)>::Type InFunc, VarTypes... Vars)
+	{
+		typedef TBaseRawMethodDelegateInstance<true, const UserClass, TFuncType, VarTypes...> FInstance;
+		return TBaseDelegate(std::make_shared<FInstance>(InUserObject, InFunc, Vars...));
+	}
+
+	template <typename UserClass, typename... VarTypes>
 	UE_NODISCARD static TBaseDelegate<RetValType, ParamTypes...> CreateSP(const TSharedRef<UserClass, ESPMode::Fast>& InUserObjectRef, typename TMemFunPtrType<false, UserClass, RetValType(ParamTypes..., VarTypes...)>::Type InFunc, VarTypes... Vars)
 	{
 		static_assert(!std::is_const<UserClass>::value, "Attempting to bind a delegate with a const object pointer and non-const member function.");

@@ -19,6 +19,10 @@ typedef wchar_t TCHAR;
 #define CORE_API
 #define SLATE_API
 #define SLATECORE_API
+#define COREUOBJECT_API
+#define APPLICATIONCORE_API
+#define UNREALED_API
+#define PROJECTS_API
 #define UE_NODISCARD [[nodiscard]]
 
 enum

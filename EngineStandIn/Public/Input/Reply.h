@@ -6,6 +6,7 @@ class FReply
 {
 public:
 	static FReply Handled() { return FReply(true); }
+	static FReply Unhandled() { return FReply(false); }
 
 	bool IsEventHandled() const { return bIsHandled; }
 

@@ -19,6 +19,9 @@ public:
 	static void NormalizeFilename(FString& InPath);
 
 	static FString GetCleanFilename(const FString& InPath);
+	static FString GetBaseFilename(const FString& InPath, bool bRemovePath = true);
+	static FString GetPath(const FString& InPath);
+	static FString GetExtension(const FString& InPath, bool bIncludeDot = false);
 
 	static bool FileExists(const FString& InPath);
 	static bool DirectoryExists(const FString& InPath);

@@ -4,6 +4,8 @@
 #include "Misc/Attribute.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/SWidget.h"
+#include <tuple>
+#include <type_traits>
 #include <utility>
 
 // SNew(SButton).Text(...).OnClicked(...) [ Content ]: the FArguments chain is built first, then "<<="
@@ -116,10 +118,16 @@ public:                                                        \
 		return this->Me();                         \
 	}
 
+// What every widget takes besides its own arguments.
 template <typename WidgetType>
 struct TSlateBaseNamedArgs
 {
 	typedef typename WidgetType::FArguments WidgetArgsType;
+
+	TSlateBaseNamedArgs()
+		: _IsEnabled(true) {}
+
+	SLATE_ATTRIBUTE(bool, IsEnabled)
 
 	WidgetArgsType& Me() { return *(static_cast<WidgetArgsType*>(this)); }
 };
@@ -164,6 +172,31 @@ namespace RequiredArgs
 	{
 		return T0RequiredArgs();
 	}
+
+	// Widgets whose Construct takes values before their named arguments: SNew(SWidget, Arg1, Arg2).
+	template <typename... ArgTypes>
+	struct TRequiredArgs
+	{
+		explicit TRequiredArgs(ArgTypes&&... InArgs)
+			: Args(std::forward<ArgTypes>(InArgs)...) {}
+
+		template <class WidgetType>
+		void CallConstruct(const TSharedRef<WidgetType>& OnWidget, const typename WidgetType::FArguments& WithNamedArgs) const
+		{
+			std::apply([&](const auto&... Values) {
+				OnWidget->Construct(WithNamedArgs, Values...);
+			},
+					   Args);
+		}
+
+		std::tuple<std::decay_t<ArgTypes>...> Args;
+	};
+
+	template <typename Arg0Type, typename... ArgTypes>
+	TRequiredArgs<Arg0Type, ArgTypes...> MakeRequiredArgs(Arg0Type&& InArg0, ArgTypes&&... InArgs)
+	{
+		return TRequiredArgs<Arg0Type, ArgTypes...>(std::forward<Arg0Type>(InArg0), std::forward<ArgTypes>(InArgs)...);
+	}
 } // namespace RequiredArgs
 
 template <class WidgetType, typename RequiredArgsPayloadType>
@@ -190,6 +223,7 @@ struct TDecl
 
 	TSharedRef<WidgetType> operator<<=(const typename WidgetType::FArguments& InArgs) const
 	{
+		_Widget->SetEnabled(InArgs._IsEnabled);
 		_RequiredArgs.CallConstruct(_Widget, InArgs);
 		return _Widget;
 	}

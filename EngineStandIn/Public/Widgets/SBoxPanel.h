@@ -48,6 +48,12 @@ public:
 			return *this;
 		}
 
+		FSlot& Padding(float Uniform)
+		{
+			SlotPadding = FMargin(Uniform);
+			return *this;
+		}
+
 		FSlot& operator[](TSharedRef<SWidget> InWidget)
 		{
 			SBoxPanel::FSlot::operator[](InWidget);
@@ -75,6 +81,12 @@ public:
 		FSlot& Padding(float Uniform)
 		{
 			SlotPadding = FMargin(Uniform);
+			return *this;
+		}
+
+		FSlot& AutoHeight()
+		{
+			SizeParam = FAuto();
 			return *this;
 		}
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Attribute.h"
 
 class FChildren;
 
@@ -16,6 +17,10 @@ public:
 	// The class name as written at SNew.
 	FString GetTypeAsString() const { return TypeOfWidget.ToString(); }
 
+	// A disabled widget takes no input; bound, the state is asked again each time.
+	bool IsEnabled() const { return !EnabledState.IsSet() || EnabledState.Get(); }
+	void SetEnabled(const TAttribute<bool>& InEnabledState) { EnabledState = InEnabledState; }
+
 	void SetDebugInfo(const ANSICHAR* InType, const ANSICHAR* InFile, int32 OnLine, size_t InAllocSize);
 
 protected:
@@ -23,4 +28,5 @@ protected:
 
 private:
 	FName TypeOfWidget;
+	TAttribute<bool> EnabledState;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "GenericPlatform/GenericWindow.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
@@ -26,6 +27,12 @@ public:
 	void Construct(const FArguments& InArgs);
 	void SetContent(TSharedRef<SWidget> InContent);
 
+	// The operating system's window under this one; null until the window is shown.
+	TSharedPtr<FGenericWindow> GetNativeWindow();
+	TSharedPtr<const FGenericWindow> GetNativeWindow() const;
+	// Given once, when the window is shown.
+	void SetNativeWindow(TSharedRef<FGenericWindow> InNativeWindow);
+
 private:
 	friend class StandIn::FWindowInspector;
 
@@ -33,4 +40,5 @@ private:
 	FVector2D InitialDesiredSize;
 	bool bHasMaximizeButton = true;
 	bool bHasMinimizeButton = true;
+	TSharedPtr<FGenericWindow> NativeWindow;
 };

@@ -125,7 +125,8 @@ bool FUGCPackager::IsAllContentSaved(const TSharedRef<IPlugin>& Plugin)
 		{
 			continue;
 		}
-		// Only a file below the plugin's folder counts; the same folder name deeper in another path does not.
+		// A plain prefix test: the same folder deeper in another path does not count, but a sibling folder
+		// whose name starts with this plugin's ("Route2" for "Route") does.
 		if (FileName.Find(BaseDir, ESearchCase::IgnoreCase, ESearchDir::FromStart) == 0)
 		{
 			return false;

@@ -30,7 +30,10 @@ public:
 
 	void AddPluginEntries(FMenuBuilder& MenuBuilder, const TArray<TSharedPtr<FUICommandInfo>>& Commands);
 
-	/** True when no dirty content or world package has its file below the plugin's folder. */
+	/**
+	 * True when no dirty content or world package has a file name that begins with the plugin's base
+	 * directory, in any letter case; a sibling folder whose name merely starts with this one's counts too.
+	 */
 	bool IsAllContentSaved(const TSharedRef<IPlugin>& Plugin);
 
 	/** Bound to a plugin's command: has the user save unsaved work, then cooks the plugin if nothing of it is left unsaved. */

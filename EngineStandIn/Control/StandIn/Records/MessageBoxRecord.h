@@ -10,13 +10,15 @@ namespace StandIn
 	class FMessageBoxRecord : public FJournalRecord
 	{
 	public:
-		FMessageBoxRecord(EAppMsgType::Type InType, FText InMessage)
-			: Type(InType), Message(std::move(InMessage)) {}
+		FMessageBoxRecord(EAppMsgType::Type InType, FText InMessage, FText InTitle = FText())
+			: Type(InType), Message(std::move(InMessage)), Title(std::move(InTitle)) {}
 
 		// "Message: <text>"
 		std::string Describe() const override;
 
 		EAppMsgType::Type Type;
 		FText Message;
+		// Empty when the box has the default title.
+		FText Title;
 	};
 }

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "StandIn/Journal.h"
+
+namespace StandIn
+{
+	// UnrealBuildTool run by the editor to compile a new plugin's code; it succeeds.
+	class FBuildToolRecord : public FJournalRecord
+	{
+	public:
+		FBuildToolRecord(FText InDescription, FString InArguments)
+			: Description(std::move(InDescription)), Arguments(std::move(InArguments)) {}
+
+		// "Build tool: <description> | <arguments>"
+		std::string Describe() const override;
+
+		FText Description;
+		FString Arguments;
+	};
+}

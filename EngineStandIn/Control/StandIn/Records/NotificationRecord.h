@@ -1,0 +1,28 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "StandIn/Journal.h"
+
+namespace StandIn
+{
+	// A toast in the editor's corner.
+	class FNotificationRecord : public FJournalRecord
+	{
+	public:
+		enum class ECompletionState
+		{
+			None,
+			Success,
+			Fail
+		};
+
+		FNotificationRecord(FText InText, ECompletionState InState)
+			: Text(std::move(InText)), State(InState) {}
+
+		// "Notification: <text>"
+		std::string Describe() const override;
+
+		FText Text;
+		ECompletionState State;
+	};
+}

@@ -1,0 +1,187 @@
+#include "Framework/Docking/TabManager.h"
+#include "StandIn/Journal.h"
+#include "StandIn/Records/TabRecord.h"
+#include "StandInWorld.h"
+#include "Widgets/Docking/SDockTab.h"
+#include <memory>
+#include <vector>
+
+namespace
+{
+	// The engine's size for a floating tab window that nobody gave a size.
+	const FVector2D FallbackWindowSize(1000.0f, 600.0f);
+
+	struct FOpenTab
+	{
+		FName TabType;
+		FText DisplayName;
+		TSharedRef<SDockTab> Tab;
+	};
+
+	struct FDockingState
+	{
+		std::vector<std::shared_ptr<FTabSpawnerEntry>> Spawners;
+		std::vector<std::pair<FTabId, FVector2D>> DefaultSizes;
+		std::vector<FOpenTab> OpenTabs;
+	};
+
+	FDockingState& State()
+	{
+		static FDockingState Instance;
+		return Instance;
+	}
+}
+
+namespace StandIn
+{
+	class FTabManagerAccess
+	{
+	public:
+		static FTabSpawnerEntry* FindSpawner(const FName& TabType)
+		{
+			for (const std::shared_ptr<FTabSpawnerEntry>& Spawner : State().Spawners)
+			{
+				if (Spawner->TabType == TabType)
+				{
+					return Spawner.get();
+				}
+			}
+			return nullptr;
+		}
+
+		static TSharedPtr<SDockTab> Spawn(FTabSpawnerEntry& Spawner, const FTabId& TabId)
+		{
+			FVector2D Size = FallbackWindowSize;
+			for (const std::pair<FTabId, FVector2D>& DefaultSize : State().DefaultSizes)
+			{
+				if (DefaultSize.first == TabId)
+				{
+					Size = DefaultSize.second;
+				}
+			}
+			const TSharedRef<SWindow> Window = SNew(SWindow).Title(Spawner.DisplayName).ClientSize(Size);
+			const FSpawnTabArgs Args(Window, TabId);
+			if (Spawner.CanSpawnTab.IsBound() && !Spawner.CanSpawnTab.Execute(Args))
+			{
+				return TSharedPtr<SDockTab>();
+			}
+			const TSharedRef<SDockTab> Tab = Spawner.OnSpawnTab.Execute(Args);
+			Tab->bIsOpen = true;
+			Window->SetContent(Tab);
+			State().OpenTabs.push_back(FOpenTab{Spawner.TabType, Spawner.DisplayName, Tab});
+			AppendToJournal(std::make_shared<FTabRecord>(FTabRecord::EKind::Spawned, Tab, Spawner.DisplayName, TabId.TabType.ToString(), Size));
+			return Tab;
+		}
+
+		static void Close(SDockTab& Tab)
+		{
+			std::vector<FOpenTab>& OpenTabs = State().OpenTabs;
+			for (auto It = OpenTabs.begin(); It != OpenTabs.end(); ++It)
+			{
+				if (&It->Tab.Get() == &Tab)
+				{
+					const FOpenTab Closed = *It;
+					OpenTabs.erase(It);
+					AppendToJournal(std::make_shared<FTabRecord>(FTabRecord::EKind::Closed, Closed.Tab, Closed.DisplayName, Closed.TabType.ToString(), FVector2D(0.0f, 0.0f)));
+					return;
+				}
+			}
+		}
+
+		static TSharedRef<FGlobalTabmanager> MakeGlobal() { return MakeShareable(new FGlobalTabmanager()); }
+	};
+}
+
+namespace StandInTabs
+{
+	void Forget()
+	{
+		State().Spawners.clear();
+		State().DefaultSizes.clear();
+		State().OpenTabs.clear();
+	}
+}
+
+void FTabManager::RegisterDefaultTabWindowSize(const FTabId& TabName, const FVector2D DefaultSize)
+{
+	UnregisterDefaultTabWindowSize(TabName);
+	State().DefaultSizes.emplace_back(TabName, DefaultSize);
+}
+
+void FTabManager::UnregisterDefaultTabWindowSize(const FTabId& TabName)
+{
+	std::vector<std::pair<FTabId, FVector2D>>& Sizes = State().DefaultSizes;
+	for (auto It = Sizes.begin(); It != Sizes.end(); ++It)
+	{
+		if (It->first.TabType == TabName.TabType && It->first.InstanceId == TabName.InstanceId)
+		{
+			Sizes.erase(It);
+			return;
+		}
+	}
+}
+
+TSharedPtr<SDockTab> FTabManager::TryInvokeTab(const FTabId& TabId)
+{
+	for (const FOpenTab& Open : State().OpenTabs)
+	{
+		if (Open.TabType == TabId.TabType)
+		{
+			StandIn::AppendToJournal(std::make_shared<StandIn::FTabRecord>(StandIn::FTabRecord::EKind::BroughtToFront, Open.Tab, Open.DisplayName, TabId.TabType.ToString(), FVector2D(0.0f, 0.0f)));
+			return Open.Tab;
+		}
+	}
+	FTabSpawnerEntry* Spawner = StandIn::FTabManagerAccess::FindSpawner(TabId.TabType);
+	return Spawner ? StandIn::FTabManagerAccess::Spawn(*Spawner, TabId) : TSharedPtr<SDockTab>();
+}
+
+const TSharedRef<FGlobalTabmanager>& FGlobalTabmanager::Get()
+{
+	static const TSharedRef<FGlobalTabmanager> Instance = StandIn::FTabManagerAccess::MakeGlobal();
+	return Instance;
+}
+
+FTabSpawnerEntry& FGlobalTabmanager::RegisterNomadTabSpawner(const FName TabId, const FOnSpawnTab& OnSpawnTab, const FCanSpawnTab& CanSpawnTab)
+{
+	// The engine refuses a second spawner of one name with an ensure; the stand-in replaces it.
+	UnregisterNomadTabSpawner(TabId);
+	State().Spawners.push_back(std::make_shared<FTabSpawnerEntry>(TabId, OnSpawnTab, CanSpawnTab));
+	return *State().Spawners.back();
+}
+
+void FGlobalTabmanager::UnregisterNomadTabSpawner(const FName TabId)
+{
+	std::vector<std::shared_ptr<FTabSpawnerEntry>>& Spawners = State().Spawners;
+	FTabSpawnerEntry* Spawner = StandIn::FTabManagerAccess::FindSpawner(TabId);
+	for (auto It = Spawners.begin(); It != Spawners.end(); ++It)
+	{
+		if (It->get() == Spawner)
+		{
+			Spawners.erase(It);
+			return;
+		}
+	}
+}
+
+void SDockTab::Construct(const FArguments& InArgs)
+{
+	TabRole = InArgs._TabRole;
+	TabLabel = InArgs._Label;
+	ChildSlot.Padding(FMargin(0.0f))[InArgs._Content.Widget];
+}
+
+void SDockTab::SetContent(TSharedRef<SWidget> InContent)
+{
+	ChildSlot.Padding(FMargin(0.0f))[InContent];
+}
+
+bool SDockTab::RequestCloseTab()
+{
+	if (!bIsOpen)
+	{
+		return false;
+	}
+	bIsOpen = false;
+	StandIn::FTabManagerAccess::Close(*this);
+	return true;
+}

@@ -1,0 +1,10 @@
+#include "GenericPlatform/GenericWindow.h"
+
+FGenericWindow::FGenericWindow() {}
+
+FGenericWindow::~FGenericWindow() {}
+
+void* FGenericWindow::GetOSWindowHandle() const
+{
+	return nullptr;
+}

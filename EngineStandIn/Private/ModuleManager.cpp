@@ -1,0 +1,122 @@
+#include "Modules/ModuleManager.h"
+#include "StandIn/World.h"
+#include "StandInModules.h"
+#include <utility>
+#include <vector>
+
+namespace StandInModules
+{
+	// Each defined in the file of the same name beside this one; a new engine module is one more line here.
+	IModuleInterface* InitializeDesktopPlatformModule();
+	IModuleInterface* InitializeMainFrameModule();
+	IModuleInterface* InitializePluginBrowserModule();
+	IModuleInterface* InitializeUATHelperModule();
+
+	namespace
+	{
+		std::vector<std::pair<FName, FInitializeModule>>& Initializers()
+		{
+			static std::vector<std::pair<FName, FInitializeModule>> List = {
+				{TEXT("DesktopPlatform"), &InitializeDesktopPlatformModule},
+				{TEXT("MainFrame"), &InitializeMainFrameModule},
+				{TEXT("PluginBrowser"), &InitializePluginBrowserModule},
+				{TEXT("UATHelper"), &InitializeUATHelperModule},
+			};
+			return List;
+		}
+	}
+
+	const FInitializeModule* FindInitializer(const FName ModuleName)
+	{
+		// A disabled plugin's binaries are not on the module search path, so its modules cannot be loaded.
+		if (ModuleName == FName(TEXT("PluginBrowser")) && !StandIn::GetWorld().bPluginBrowserLoaded)
+		{
+			return nullptr;
+		}
+		for (const std::pair<FName, FInitializeModule>& Entry : Initializers())
+		{
+			if (Entry.first == ModuleName)
+			{
+				return &Entry.second;
+			}
+		}
+		return nullptr;
+	}
+
+	void Register(const FName ModuleName, FInitializeModule Initializer)
+	{
+		check(FindInitializer(ModuleName) == nullptr);
+		Initializers().emplace_back(ModuleName, std::move(Initializer));
+	}
+}
+
+namespace StandInModules
+{
+	void UnloadAll()
+	{
+		std::vector<FModuleManager::FLoadedModule>& Loaded = FModuleManager::Get().LoadedModules;
+		while (!Loaded.empty())
+		{
+			Loaded.back().Module->ShutdownModule();
+			Loaded.pop_back();
+		}
+	}
+
+	void StartEditorModules()
+	{
+		UnloadAll();
+		// Enabled plugins' editor modules are up before any other module starts, as at the editor's start.
+		FModuleManager::Get().LoadModule(TEXT("PluginBrowser"));
+	}
+}
+
+FModuleManager::FModuleManager() {}
+
+// Modules stay loaded until the program ends, as the editor's do until it shuts down.
+FModuleManager::~FModuleManager() {}
+
+FModuleManager& FModuleManager::Get()
+{
+	static FModuleManager* Instance = new FModuleManager();
+	return *Instance;
+}
+
+bool FModuleManager::IsModuleLoaded(const FName InModuleName) const
+{
+	for (const FLoadedModule& Loaded : LoadedModules)
+	{
+		if (Loaded.Name == InModuleName)
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
+IModuleInterface* FModuleManager::LoadModule(const FName InModuleName)
+{
+	for (const FLoadedModule& Loaded : LoadedModules)
+	{
+		if (Loaded.Name == InModuleName)
+		{
+			return Loaded.Module.get();
+		}
+	}
+	const StandInModules::FInitializeModule* Initializer = StandInModules::FindInitializer(InModuleName);
+	if (Initializer == nullptr)
+	{
+		return nullptr;
+	}
+	// Entered before its start-up, so that a module that loads others while starting finds itself loaded.
+	LoadedModules.push_back(FLoadedModule{InModuleName, std::unique_ptr<IModuleInterface>((*Initializer)())});
+	IModuleInterface* Module = LoadedModules.back().Module.get();
+	Module->StartupModule();
+	return Module;
+}
+
+IModuleInterface& FModuleManager::LoadModuleChecked(const FName InModuleName)
+{
+	IModuleInterface* Module = LoadModule(InModuleName);
+	checkf(Module, TEXT("%s"), *InModuleName.ToString());
+	return *Module;
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+class IModularFeature
+{
+public:
+	virtual ~IModularFeature() {}
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+namespace ESelectionMode
+{
+	enum Type
+	{
+		None,
+		Single,
+		SingleToggle,
+		Multi
+	};
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Layout/Margin.h"
+#include "Types/SlateStructs.h"
+#include "Widgets/DeclarativeSyntaxSupport.h"
+#include "Widgets/SCompoundWidget.h"
+
+namespace StandIn
+{
+	class FBoxInspector;
+}
+
+// Holds one widget at a size of its choosing.
+class SLATE_API SBox : public SCompoundWidget
+{
+public:
+	// clang-format off
+	SLATE_BEGIN_ARGS(SBox)
+		: _Content(), _Padding(FMargin(0.0f)), _WidthOverride(FOptionalSize()), _HeightOverride(FOptionalSize()) {}
+		SLATE_DEFAULT_SLOT(FArguments, Content)
+		SLATE_ATTRIBUTE(FMargin, Padding)
+		SLATE_ATTRIBUTE(FOptionalSize, WidthOverride)
+		SLATE_ATTRIBUTE(FOptionalSize, HeightOverride)
+	SLATE_END_ARGS()
+	// clang-format on
+
+	void Construct(const FArguments& InArgs);
+
+private:
+	friend class StandIn::FBoxInspector;
+
+	TAttribute<FOptionalSize> WidthOverride;
+	TAttribute<FOptionalSize> HeightOverride;
+};

@@ -1,0 +1,142 @@
+#include "CookTest.h"
+#include "Styling/StyleDefaults.h"
+
+TEST_F(FCookTest, DropDownListsOnlyTheProjectsPluginsAndModsInDiscoveryOrderEachLoggedAsAdded)
+{
+	WriteFile("C:/Work/Moravane/Moravane.uproject", "{\"FileVersion\": 3, \"AdditionalPluginDirectories\": [\"C:/Shared/Extra\"]}");
+	WriteFile("C:/Work/Engine/Plugins/Yak/Yak.uplugin", "{\"FileVersion\": 3, \"CanContainContent\": true}");
+	WritePlugin("C:/Shared/Extra/Zeta/Zeta.uplugin");
+	WritePlugin("C:/Work/Moravane/Mods/Alpha/Alpha.uplugin");
+	WritePlugin("C:/Work/Moravane/Plugins/beta/beta.uplugin");
+	WritePlugin("C:/Work/Moravane/Plugins/Aardvark/Aardvark.uplugin");
+	StandIn::DiscoverPlugins();
+	const size_t FirstRecord = StandIn::Journal().size();
+
+	const TSharedRef<SWidget> Menu = OpenDropDown();
+
+	EXPECT_EQ(EntryLabels(Menu), std::vector<std::string>({"Aardvark", "beta", "Alpha"}));
+	EXPECT_EQ(LogTempLines(FirstRecord), std::vector<std::string>({"LogTemp: Display: Adding Aardvark", "LogTemp: Display: Adding beta", "LogTemp: Display: Adding Alpha"}));
+}
+
+TEST_F(FCookTest, PluginFoundTwiceIsListedOnceAsThePluginManagerKeepsIt)
+{
+	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
+	WritePlugin("C:/Work/Moravane/Mods/myroute/myroute.uplugin");
+	StandIn::DiscoverPlugins();
+
+	const std::vector<StandIn::FMenuEntry> Entries = StandIn::MenuEntries(OpenDropDown());
+
+	ASSERT_EQ(Entries.size(), 2u);
+	EXPECT_EQ(Entries[1].Label.ToString(), TEXT("MyRoute"));
+	EXPECT_EQ(Entries[1].ToolTip.ToString(), TEXT("../../../Moravane/Plugins/MyRoute"));
+}
+
+TEST_F(FCookTest, ProjectCopyOfAnEnginePluginIsListedAsTheProjects)
+{
+	WriteFile("C:/Work/Engine/Plugins/Signals/Signals.uplugin", "{\"FileVersion\": 3, \"CanContainContent\": true}");
+	WritePlugin("C:/Work/Moravane/Plugins/Signals/Signals.uplugin");
+	StandIn::DiscoverPlugins();
+
+	const std::vector<StandIn::FMenuEntry> Entries = StandIn::MenuEntries(OpenDropDown());
+
+	ASSERT_EQ(Entries.size(), 2u);
+	EXPECT_EQ(Entries[1].Label.ToString(), TEXT("Signals"));
+	EXPECT_EQ(Entries[1].ToolTip.ToString(), TEXT("../../../Moravane/Plugins/Signals"));
+}
+
+TEST_F(FCookTest, DropDownEntryShowsThePluginsNameAndFolderUnderTheShareHeadingWithAFolderIconThatDrawsNothing)
+{
+	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
+	StandIn::DiscoverPlugins();
+
+	const std::vector<StandIn::FMenuEntry> Entries = StandIn::MenuEntries(OpenDropDown());
+
+	ASSERT_EQ(Entries.size(), 2u);
+	EXPECT_EQ(Entries[0].Kind, StandIn::FMenuEntry::EKind::Heading);
+	EXPECT_EQ(Entries[0].Label.ToString(), TEXT("Share..."));
+	EXPECT_EQ(FTextInspector::GetNamespace(Entries[0].Label).Get(TEXT("")), TEXT("UGCPackager"));
+	EXPECT_EQ(FTextInspector::GetKey(Entries[0].Label).Get(TEXT("")), TEXT("PackageUGC"));
+	EXPECT_EQ(Entries[1].Kind, StandIn::FMenuEntry::EKind::Entry);
+	EXPECT_EQ(Entries[1].Label.ToString(), TEXT("MyRoute"));
+	EXPECT_EQ(Entries[1].ToolTip.ToString(), TEXT("../../../Moravane/Plugins/MyRoute"));
+	EXPECT_EQ(Entries[1].IconStyleSetName.ToString(), TEXT("UGCEditorStyle"));
+	EXPECT_EQ(Entries[1].IconStyleName.ToString(), TEXT("UGCEditor.Folder"));
+	EXPECT_EQ(Entries[1].IconBrush, FStyleDefaults::GetNoBrush());
+}
+
+TEST_F(FCookTest, DropDownRegistersOneCommandPerPluginWithoutAnIconOfItsOwn)
+{
+	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
+	WritePlugin("C:/Work/Moravane/Mods/Tram/Tram.uplugin");
+	StandIn::DiscoverPlugins();
+
+	OpenDropDown();
+
+	EXPECT_EQ(PluginCommandNames(), std::vector<std::string>({"UGCEditorUGC_MyRoute", "UGCEditorUGC_Tram"}));
+	const TSharedPtr<FUICommandInfo> Command = FInputBindingManager::Get().FindCommandInContext(TEXT("UGCEditor"), TEXT("UGCEditorUGC_Tram"));
+	ASSERT_TRUE(Command.IsValid());
+	EXPECT_EQ(Command->GetLabel().ToString(), TEXT("Tram"));
+	EXPECT_EQ(Command->GetDescription().ToString(), TEXT("../../../Moravane/Mods/Tram"));
+	EXPECT_FALSE(Command->GetIcon().IsSet());
+}
+
+TEST_F(FCookTest, EachOpeningOfTheDropDownDropsTheCommandsOfTheOpeningBefore)
+{
+	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
+	WritePlugin("C:/Work/Moravane/Plugins/Retired/Retired.uplugin");
+	StandIn::DiscoverPlugins();
+	OpenDropDown();
+	const TSharedPtr<FUICommandInfo> First = FInputBindingManager::Get().FindCommandInContext(TEXT("UGCEditor"), TEXT("UGCEditorUGC_MyRoute"));
+
+	// The editor restarted with one plugin removed and one added.
+	std::filesystem::remove_all(Host("C:/Work/Moravane/Plugins/Retired"));
+	WritePlugin("C:/Work/Moravane/Mods/Tram/Tram.uplugin");
+	ResetWorld(DefaultWorld());
+	StandIn::DiscoverPlugins();
+	const TSharedRef<SWidget> Menu = OpenDropDown();
+
+	EXPECT_EQ(EntryLabels(Menu), std::vector<std::string>({"MyRoute", "Tram"}));
+	EXPECT_EQ(PluginCommandNames(), std::vector<std::string>({"UGCEditorUGC_MyRoute", "UGCEditorUGC_Tram"}));
+	EXPECT_NE(FInputBindingManager::Get().FindCommandInContext(TEXT("UGCEditor"), TEXT("UGCEditorUGC_MyRoute")), First);
+	// Registering a name that is still registered would have failed an ensure.
+	EXPECT_EQ(LogLines(), std::vector<std::string>({"LogTemp: Display: Adding MyRoute", "LogTemp: Display: Adding Tram"}));
+}
+
+TEST_F(FCookTest, SubMenuIsEmptyUntilTheDropDownFirstOpensThoughItLooksThePluginsUp)
+{
+	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
+	StandIn::DiscoverPlugins();
+
+	const TSharedRef<SWidget> Menu = OpenSubMenu();
+
+	EXPECT_TRUE(StandIn::MenuEntries(Menu).empty());
+	EXPECT_TRUE(PluginCommandNames().empty());
+	EXPECT_EQ(LogTempLines(), std::vector<std::string>({"LogTemp: Display: Adding MyRoute"}));
+}
+
+TEST_F(FCookTest, SubMenuShowsTheCommandsOfTheLastDropDownNotThePluginsFoundSince)
+{
+	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
+	StandIn::DiscoverPlugins();
+	OpenDropDown();
+	WritePlugin("C:/Work/Moravane/Mods/Tram/Tram.uplugin");
+	IPluginManager::Get().RefreshPluginsList();
+
+	const std::vector<StandIn::FMenuEntry> Entries = StandIn::MenuEntries(OpenSubMenu());
+
+	ASSERT_EQ(Entries.size(), 1u);
+	EXPECT_EQ(Entries[0].Label.ToString(), TEXT("MyRoute"));
+	EXPECT_EQ(Entries[0].ToolTip.ToString(), TEXT("../../../Moravane/Plugins/MyRoute"));
+	EXPECT_EQ(Entries[0].IconStyleName.ToString(), TEXT("UGCEditor.Folder"));
+}
+
+TEST_F(FCookTest, NoPackageablePluginLeavesBothMenusWithoutEntries)
+{
+	WriteFile("C:/Work/Engine/Plugins/Yak/Yak.uplugin", "{\"FileVersion\": 3, \"CanContainContent\": true}");
+	StandIn::DiscoverPlugins();
+
+	EXPECT_TRUE(EntryLabels(OpenDropDown()).empty());
+	EXPECT_TRUE(EntryLabels(OpenSubMenu()).empty());
+	EXPECT_TRUE(LogTempLines().empty());
+	EXPECT_TRUE(MessageBoxTexts().empty());
+}

@@ -1,0 +1,99 @@
+#include "CreateModTest.h"
+#include "Framework/Docking/TabManager.h"
+#include "Widgets/Docking/SDockTab.h"
+
+class FCreateModTabTest : public FCreateModTest
+{
+};
+
+TEST_F(FCreateModTabTest, TheFirstCommandOpensTheTabInANewWindowOfEightHundredBySixHundred)
+{
+	FUGCCreator Creator;
+	Creator.OpenCreateModTab(false);
+
+	EXPECT_EQ(StandIn::JournalLines(), std::vector<std::string>({"Tab: Create New Mod (UGCPluginCreator) 800x600"}));
+	ASSERT_EQ(TabRecords().size(), 1u);
+	EXPECT_EQ(TabRecords()[0]->Tab->GetTabRole(), ETabRole::NomadTab);
+	EXPECT_EQ(FindWidgets(TabRecords()[0]->Tab, "SNewPluginWizard").size(), 1u);
+}
+
+TEST_F(FCreateModTabTest, ASecondCommandBringsTheOpenTabToTheFront)
+{
+	FUGCCreator Creator;
+	Creator.OpenCreateModTab(false);
+	Creator.OpenCreateModTab(false);
+
+	EXPECT_EQ(StandIn::JournalLines(), std::vector<std::string>({"Tab: Create New Mod (UGCPluginCreator) 800x600", "Tab to front: Create New Mod (UGCPluginCreator)"}));
+	EXPECT_EQ(&TabRecords()[1]->Tab.Get(), &TabRecords()[0]->Tab.Get());
+}
+
+TEST_F(FCreateModTabTest, TheTabIsRegisteredHiddenUnderItsTitle)
+{
+	FUGCCreator Creator;
+	const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->TryInvokeTab(FName(TEXT("UGCPluginCreator")));
+
+	ASSERT_TRUE(Tab.IsValid());
+	ASSERT_EQ(TabRecords().size(), 1u);
+	EXPECT_EQ(StandIn::ToUtf8(TabRecords()[0]->DisplayName.ToString()), "Create New Mod");
+	EXPECT_EQ(TabRecords()[0]->WindowSize.X, 800.0f);
+	EXPECT_EQ(TabRecords()[0]->WindowSize.Y, 600.0f);
+}
+
+TEST_F(FCreateModTabTest, TheTabIsGoneOnceTheCreatorIs)
+{
+	{
+		FUGCCreator Creator;
+	}
+	EXPECT_FALSE(FGlobalTabmanager::Get()->TryInvokeTab(FName(TEXT("UGCPluginCreator"))).IsValid());
+	EXPECT_TRUE(StandIn::Journal().empty());
+}
+
+TEST_F(FCreateModTabTest, WithoutThePluginBrowserTheCommandSaysWhyAndOpensNothing)
+{
+	StandIn::FWorld World = DefaultWorld();
+	World.bPluginBrowserLoaded = false;
+	ResetWorld(World);
+	FUGCCreator Creator;
+	Creator.OpenCreateModTab(false);
+
+	EXPECT_EQ(StandIn::JournalLines(), std::vector<std::string>({"Message: Creating a game mod requires the use of the Plugin Browser, but it is currently disabled."}));
+	EXPECT_TRUE(TabRecords().empty());
+}
+
+TEST_F(FCreateModTabTest, WithoutThePluginBrowserASilentCommandDoesNothing)
+{
+	StandIn::FWorld World = DefaultWorld();
+	World.bPluginBrowserLoaded = false;
+	ResetWorld(World);
+	FUGCCreator Creator;
+	Creator.OpenCreateModTab(true);
+
+	EXPECT_TRUE(StandIn::Journal().empty());
+}
+
+TEST_F(FCreateModTabTest, SpawningTheTabWithoutThePluginBrowserStopsTheEditor)
+{
+	StandIn::FWorld World = DefaultWorld();
+	World.bPluginBrowserLoaded = false;
+	ResetWorld(World);
+	FUGCCreator Creator;
+
+	EXPECT_DEATH(Creator.SpawnCreateModTab(FSpawnTabArgs(TSharedPtr<SWindow>(), FTabId(FName(TEXT("UGCPluginCreator"))))), "");
+}
+
+TEST_F(FCreateModTabTest, EachTabGetsAFreshSelection)
+{
+	FUGCCreator Creator;
+	Creator.OpenCreateModTab(false);
+	const TSharedRef<SWidget> FirstList = FindWidgets(TabRecords()[0]->Tab, "SPluginTemplateList").at(0);
+	ASSERT_TRUE(StandIn::SelectListRow(FirstList, TEXT("Route")));
+	TSharedRef<SDockTab> FirstTab = TabRecords()[0]->Tab;
+	FirstTab->RequestCloseTab();
+
+	Creator.OpenCreateModTab(false);
+
+	ASSERT_EQ(TabRecords().size(), 3u);
+	EXPECT_EQ(TabRecords()[1]->Kind, StandIn::FTabRecord::EKind::Closed);
+	const TSharedRef<SWidget> SecondList = FindWidgets(TabRecords()[2]->Tab, "SPluginTemplateList").at(0);
+	EXPECT_TRUE(StandIn::Paint(SecondList).SelectedListRows.empty());
+}

@@ -1,0 +1,182 @@
+#include "Brushes/SlateDynamicImageBrush.h"
+#include "CreateModTest.h"
+
+class FWizardDefinitionTest : public FCreateModTest
+{
+protected:
+	// Made in the test's world: the definition takes the project folder once, as it is built.
+	void SetUp() override
+	{
+		FCreateModTest::SetUp();
+		Definition = MakeShared<FUGCPluginWizardDefinition>();
+	}
+
+	std::vector<std::string> Folders() const { return ToUtf8Strings(Definition->GetFoldersForSelection()); }
+
+	void Select(std::initializer_list<int32> Indices, ESelectInfo::Type SelectInfo = ESelectInfo::OnMouseClick)
+	{
+		TArray<TSharedRef<FPluginTemplateDescription>> Items;
+		for (const int32 Index : Indices)
+		{
+			Items.Add(Definition->GetTemplatesSource()[Index]);
+		}
+		Definition->OnTemplateSelectionChanged(Items, SelectInfo);
+	}
+
+	TSharedPtr<FUGCPluginWizardDefinition> Definition;
+};
+
+TEST_F(FWizardDefinitionTest, FourTemplatesAreOfferedInOrderWithTheirFolders)
+{
+	std::vector<std::string> Names;
+	std::vector<std::string> Paths;
+	for (const TSharedRef<FPluginTemplateDescription>& Template : Definition->GetTemplatesSource())
+	{
+		Names.push_back(StandIn::ToUtf8(Template->Name.ToString()));
+		Paths.push_back(StandIn::ToUtf8(Template->OnDiskPath));
+		EXPECT_TRUE(Template->Description.IsEmpty());
+		EXPECT_TRUE(Template->bCanContainContent);
+		EXPECT_EQ(Template->ModuleDescriptorType, EHostType::Runtime);
+		EXPECT_EQ(Template->LoadingPhase, ELoadingPhase::Default);
+	}
+	EXPECT_EQ(Names, std::vector<std::string>({"Route", "Scenario", "ServiceMode", "Blank"}));
+	EXPECT_EQ(Paths, std::vector<std::string>({"Route", "Scenario", "Service Mode", "Blank"}));
+	EXPECT_EQ(Definition->GetSelectionMode(), ESelectionMode::Multi);
+}
+
+TEST_F(FWizardDefinitionTest, ASelectionReplacesThePreviousOneInTheReportedOrder)
+{
+	Select({0, 3});
+	Select({3, 1}, ESelectInfo::Direct);
+
+	const TArray<TSharedPtr<FPluginTemplateDescription>> Selected = Definition->GetSelectedTemplates();
+	ASSERT_EQ(Selected.Num(), 2);
+	EXPECT_EQ(StandIn::ToUtf8(Selected[0]->Name.ToString()), "Blank");
+	EXPECT_EQ(StandIn::ToUtf8(Selected[1]->Name.ToString()), "Scenario");
+
+	Definition->ClearTemplateSelection();
+	EXPECT_EQ(Definition->GetSelectedTemplates().Num(), 0);
+	EXPECT_TRUE(Definition->HasValidTemplateSelection());
+}
+
+TEST_F(FWizardDefinitionTest, TheBaseTemplateAloneIsCopiedWhenNothingIsChosen)
+{
+	EXPECT_EQ(Folders(), std::vector<std::string>({"../../../Moravane/Templates/BaseTemplate"}));
+	EXPECT_EQ(StandIn::ToUtf8(Definition->GetPluginFolderPath()), "../../../Moravane/Templates/BaseTemplate");
+}
+
+TEST_F(FWizardDefinitionTest, ChosenFoldersFollowTheBaseTemplateInSelectionOrder)
+{
+	Select({1, 0});
+
+	EXPECT_EQ(Folders(), std::vector<std::string>({"../../../Moravane/Templates/BaseTemplate", "../../../Moravane/Templates/Scenario", "../../../Moravane/Templates/Route"}));
+}
+
+TEST_F(FWizardDefinitionTest, ServiceModeIsCopiedFromTheFolderWithTheSpace)
+{
+	Select({2});
+
+	EXPECT_EQ(Folders().at(1), "../../../Moravane/Templates/Service Mode");
+}
+
+TEST_F(FWizardDefinitionTest, ASourceFolderInAChosenTemplateMakesModules)
+{
+	WriteFile("C:/Work/Moravane/Templates/Scenario/Source/PLUGIN_NAME/PLUGIN_NAME.Build.cs", "x");
+
+	EXPECT_FALSE(Definition->HasModules());
+	Select({0});
+	EXPECT_FALSE(Definition->HasModules());
+	Select({0, 1});
+	EXPECT_TRUE(Definition->HasModules());
+}
+
+TEST_F(FWizardDefinitionTest, ASourceFolderInTheBaseTemplateMakesNoModules)
+{
+	WriteFile("C:/Work/Moravane/Templates/BaseTemplate/Source/PLUGIN_NAME/PLUGIN_NAME.Build.cs", "x");
+	Select({3});
+
+	EXPECT_FALSE(Definition->HasModules());
+}
+
+TEST_F(FWizardDefinitionTest, ContentIsAllowedWithoutASelectionAndWhenAChosenTemplateAllowsIt)
+{
+	EXPECT_TRUE(Definition->CanContainContent());
+
+	Definition->GetTemplatesSource()[0]->bCanContainContent = false;
+	Definition->GetTemplatesSource()[1]->bCanContainContent = false;
+	Select({0});
+	EXPECT_FALSE(Definition->CanContainContent());
+	Select({0, 1});
+	EXPECT_FALSE(Definition->CanContainContent());
+	Select({0, 2});
+	EXPECT_TRUE(Definition->CanContainContent());
+}
+
+TEST_F(FWizardDefinitionTest, ThePluginIconIsTheBaseTemplatesAndTemplatesShowTheProjectIcon)
+{
+	FString IconPath;
+	EXPECT_FALSE(Definition->GetPluginIconPath(IconPath));
+	EXPECT_EQ(StandIn::ToUtf8(IconPath), "../../../Moravane/Templates/BaseTemplate/Resources/Icon128.png");
+
+	FString TemplateIconPath;
+	EXPECT_FALSE(Definition->GetTemplateIconPath(Definition->GetTemplatesSource()[2], TemplateIconPath));
+	EXPECT_EQ(StandIn::ToUtf8(TemplateIconPath), "../../../Moravane/Resources/Icon128.png");
+}
+
+TEST_F(FWizardDefinitionTest, TheDefinitionAnswersTheWizardsOtherQuestionsAsTheProjectWants)
+{
+	EXPECT_FALSE(Definition->AllowsEnginePlugins());
+	EXPECT_TRUE(Definition->CanShowOnStartup());
+	EXPECT_FALSE(Definition->IsMod());
+	EXPECT_EQ(Definition->GetShowOnStartupCheckBoxState(), ECheckBoxState::Unchecked);
+	EXPECT_EQ(Definition->GetPluginModuleDescriptor(), EHostType::Runtime);
+	EXPECT_EQ(Definition->GetPluginLoadingPhase(), ELoadingPhase::Default);
+	const FText Instructions = Definition->GetInstructions();
+	EXPECT_EQ(StandIn::ToUtf8(Instructions.ToString()), "Give your new DLC package a name and Click 'Create Mod' to make a new content only DLC package.");
+	EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetNamespace(Instructions).GetValue()), "UGCPluginWizard");
+	EXPECT_EQ(StandIn::ToUtf8(FTextInspector::GetKey(Instructions).GetValue()), "CreateNewUGCPanel");
+}
+
+TEST_F(FWizardDefinitionTest, TheHeaderShowsTheBaseTemplateIconAtItsOwnSizeInAFlatStrip)
+{
+	// A 64 by 64 icon in the base template tells its size apart from the project's 128 by 128 one.
+	WriteFile("C:/Work/Moravane/Templates/BaseTemplate/Resources/Icon128.png", RepositoryFile("Resources/DistributeUGC_64x.png"));
+
+	const TSharedPtr<SWidget> Header = Definition->GetCustomHeaderWidget();
+	ASSERT_TRUE(Header.IsValid());
+	ASSERT_EQ(StandIn::WidgetType(Header.ToSharedRef()), "SHorizontalBox");
+	const std::vector<StandIn::FChildSlot> Slots = StandIn::ChildSlots(Header.ToSharedRef());
+	ASSERT_EQ(Slots.size(), 1u);
+	EXPECT_EQ(Slots[0].Padding, FMargin(4.0f));
+	ASSERT_EQ(StandIn::WidgetType(Slots[0].Widget), "SBox");
+	const StandIn::FPaintedWidget Box = StandIn::Paint(Slots[0].Widget);
+	EXPECT_EQ(Box.WidthOverride, 80.0f);
+	EXPECT_EQ(Box.HeightOverride, 10.0f);
+	const std::vector<TSharedRef<SWidget>> Images = FindWidgets(Slots[0].Widget, "SImage");
+	ASSERT_EQ(Images.size(), 1u);
+	const FSlateBrush* Brush = StandIn::Paint(Images[0]).Image;
+	ASSERT_NE(Brush, nullptr);
+	EXPECT_EQ(StandIn::ToUtf8(Brush->GetResourceName().ToString()), "../../../Moravane/Templates/BaseTemplate/Resources/Icon128.png");
+	EXPECT_EQ(Brush->GetImageSize().X, 64.0f);
+	EXPECT_EQ(Brush->GetImageSize().Y, 64.0f);
+}
+
+TEST_F(FWizardDefinitionTest, TheHeaderIconIsMadeOnceAndKept)
+{
+	const FSlateBrush* First = StandIn::Paint(FindWidgets(Definition->GetCustomHeaderWidget().ToSharedRef(), "SImage").at(0)).Image;
+	const FSlateBrush* Second = StandIn::Paint(FindWidgets(Definition->GetCustomHeaderWidget().ToSharedRef(), "SImage").at(0)).Image;
+
+	ASSERT_NE(First, nullptr);
+	EXPECT_EQ(First, Second);
+}
+
+TEST_F(FWizardDefinitionTest, WithoutTheIconTheHeaderIsEmptyAndTriesAgainNextTime)
+{
+	std::filesystem::remove(Host("C:/Work/Moravane/Templates/BaseTemplate/Resources/Icon128.png"));
+	EXPECT_EQ(StandIn::Paint(FindWidgets(Definition->GetCustomHeaderWidget().ToSharedRef(), "SImage").at(0)).Image, nullptr);
+
+	WriteFile("C:/Work/Moravane/Templates/BaseTemplate/Resources/Icon128.png", RepositoryFile("Resources/Icon128.png"));
+	const FSlateBrush* Brush = StandIn::Paint(FindWidgets(Definition->GetCustomHeaderWidget().ToSharedRef(), "SImage").at(0)).Image;
+	ASSERT_NE(Brush, nullptr);
+	EXPECT_EQ(Brush->GetImageSize().X, 128.0f);
+}
