@@ -14,13 +14,30 @@ struct FEditorCommandLine
 		std::optional<std::string> RequiredDLCs;
 	};
 
+	struct FDirtyPackage
+	{
+		std::string LongPackageName;
+		bool bIsMap = false;
+	};
+
 	std::string Root;
 	std::string LaunchDir = "C:/Work/";
 	std::string ProjectFile = "C:/Work/Moravane/Moravane.uproject";
+	bool bNoPluginBrowser = false;
 	std::string Command;
+	bool bHelp = false;
+
+	// distribute
 	bool bCalverly5 = false;
 	std::vector<FPluginChoice> Plugins;
-	bool bHelp = false;
+
+	// cook and create: the plugin's name
+	std::string Name;
+	// cook
+	std::vector<FDirtyPackage> DirtyPackages;
+	bool bSaveAll = false;
+	// create, in the order given
+	std::vector<std::string> Templates;
 };
 
 // Throws FUsageError with a message for the user.

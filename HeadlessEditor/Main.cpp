@@ -1,9 +1,15 @@
 // ugc-editor: a headless editor that boots the stand-in engine on a Windows world kept in a folder, runs
 // the UGCEditor module there and operates its user interface as a person would.
 #include "CommandLine.h"
-#include "DistributeCommand.h"
+#include "Commands.h"
+#include "Modules/ModuleManager.h"
 #include "StandIn/Records/LogRecord.h"
 #include "StandIn/Records/MessageBoxRecord.h"
+#include "StandIn/Records/NotificationRecord.h"
+#include "StandIn/Records/SavePromptRecord.h"
+#include "StandIn/Records/TabRecord.h"
+#include "StandIn/Records/UatTaskRecord.h"
+#include "StandIn/Records/WindowRecord.h"
 #include "StandIn/World.h"
 #include <filesystem>
 #include <iostream>
@@ -81,7 +87,45 @@ namespace
 		// The editor is taken to be started from its install folder, as the module assumes.
 		World.BaseDir = StandIn::FromUtf8(AsFolder(CommandLine.LaunchDir)).Replace(TEXT("\\"), TEXT("/")) + TEXT("Engine/Binaries/Win64/");
 		World.ProjectFilePath = StandIn::FromUtf8(CommandLine.ProjectFile);
+		World.bPluginBrowserLoaded = !CommandLine.bNoPluginBrowser;
+		for (const FEditorCommandLine::FDirtyPackage& Package : CommandLine.DirtyPackages)
+		{
+			World.DirtyPackages.push_back(StandIn::FDirtyPackage{StandIn::FromUtf8(Package.LongPackageName), Package.bIsMap});
+		}
+		World.SavePromptAnswer = CommandLine.bSaveAll ? StandIn::ESavePromptAnswer::SaveAll : StandIn::ESavePromptAnswer::DontSave;
 		return World;
+	}
+
+	// The line a person at the editor would see for this record; empty for what the editor does not show.
+	std::string ShownLine(const StandIn::FJournalRecord& Record)
+	{
+		if (dynamic_cast<const StandIn::FLogRecord*>(&Record) || dynamic_cast<const StandIn::FMessageBoxRecord*>(&Record) || dynamic_cast<const StandIn::FWindowRecord*>(&Record) || dynamic_cast<const StandIn::FNotificationRecord*>(&Record))
+		{
+			return Record.Describe();
+		}
+		if (const StandIn::FTabRecord* Tab = dynamic_cast<const StandIn::FTabRecord*>(&Record))
+		{
+			return Tab->Kind == StandIn::FTabRecord::EKind::Spawned ? Tab->Describe() : std::string();
+		}
+		if (const StandIn::FSavePromptRecord* Prompt = dynamic_cast<const StandIn::FSavePromptRecord*>(&Record))
+		{
+			if (!Prompt->bPromptShown)
+			{
+				return std::string();
+			}
+			std::string Line = "Save prompt: ";
+			for (size_t Index = 0; Index < Prompt->PackageNames.size(); ++Index)
+			{
+				Line += (Index == 0 ? "" : ", ") + StandIn::ToUtf8(Prompt->PackageNames[Index]);
+			}
+			return Line;
+		}
+		if (const StandIn::FUatTaskRecord* Task = dynamic_cast<const StandIn::FUatTaskRecord*>(&Record))
+		{
+			const std::string Icon = Task->IconResourceName == NAME_None ? "none" : StandIn::ToUtf8(Task->IconResourceName.ToString());
+			return "Task: " + StandIn::ToUtf8(Task->TaskName.ToString()) + " | " + StandIn::ToUtf8(Task->TaskShortName.ToString()) + " | " + StandIn::ToUtf8(Task->PlatformDisplayName.ToString()) + " | " + Icon + " | " + StandIn::ToUtf8(Task->CommandLine);
+		}
+		return std::string();
 	}
 }
 
@@ -108,13 +152,19 @@ int main(int argc, char** argv)
 
 	StandIn::ResetWorld(World);
 	StandIn::SetJournalListener([](const StandIn::FJournalRecord& Record) {
-		// Windows join the output once the session runs through the level editor's menus.
-		if (dynamic_cast<const StandIn::FLogRecord*>(&Record) || dynamic_cast<const StandIn::FMessageBoxRecord*>(&Record))
+		const std::string Line = ShownLine(Record);
+		if (!Line.empty())
 		{
 			// One flush at exit, not one a line: a run over many files logs tens of thousands of lines.
-			std::cout << Record.Describe() << '\n';
+			std::cout << Line << '\n';
 		}
 	});
+	StandIn::DiscoverPlugins();
 
-	return RunDistribute(CommandLine);
+	// As the engine loads a module: by name, through its exported entry point, then its start-up.
+	FModuleManager::Get().LoadModuleChecked(TEXT("UGCEditor"));
+	const int ExitCode = RunCommand(CommandLine);
+	// As at the editor's exit: shut down, then destroyed.
+	FModuleManager::Get().UnloadModule(TEXT("UGCEditor"), true);
+	return ExitCode;
 }

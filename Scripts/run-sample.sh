@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# The main job: installs what is missing, builds the headless editor, distributes the sample project's
-# mods through the paking dialog on a fresh copy of the sample sandbox, and shows what the run left on disk.
+# The main job: installs what is missing, builds the headless editor, and on a fresh copy of the sample
+# sandbox runs one session of each command (the menus, a new mod from two templates, a cook declined at the
+# save prompt and then saved, a distribution through the paking dialog); then shows what was left on disk.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -12,23 +13,38 @@ cmake --build --preset release --target ugc-editor
 sandbox=build/sample-run
 rm -rf "$sandbox"
 cp -a Samples/Sandbox "$sandbox"
+# The project data the module reads: the command icons and the mod templates.
+cp -a Resources Templates "$sandbox/C/Work/Moravane/"
 marker=$(mktemp)
 trap 'rm -f "$marker"' EXIT
 sleep 1
 
-command=(build/release/HeadlessEditor/ugc-editor --root "$sandbox" distribute --calverly5
-	--plugin CalverlyBranchLine --original --dlcs "Moravane_Base, Calverly5_Signals"
-	--plugin ExpressTimetable --original
-	--plugin ThirdPartyLocos)
-printf '$'; printf ' %q' "${command[@]}"; echo
-"${command[@]}"
+editor=build/release/HeadlessEditor/ugc-editor
+run() {
+	echo
+	printf '$'
+	printf ' %q' "$@"
+	echo
+	"$@"
+}
+
+run "$editor" --root "$sandbox" menus
+run "$editor" --root "$sandbox" create Northline --template Route --template ServiceMode
+run "$editor" --root "$sandbox" cook CalverlyBranchLine --dirty /CalverlyBranchLine/Maps/Main --save none
+run "$editor" --root "$sandbox" cook CalverlyBranchLine --dirty /CalverlyBranchLine/Maps/Main --save all
+run "$editor" --root "$sandbox" distribute --calverly5 \
+	--plugin CalverlyBranchLine --original --dlcs "Moravane_Base, Calverly5_Signals" \
+	--plugin ExpressTimetable --original \
+	--plugin ThirdPartyLocos
 
 echo
 echo "What the run left on disk (files made or changed, below $sandbox):"
 find "$sandbox" -type f -newer "$marker" | sort | while read -r file; do
 	echo
 	echo "--- ${file#"$sandbox"/}"
-	if grep -qP '\x00' "$file"; then
+	if [[ $file == *.png ]]; then
+		echo "(an image, $(stat -c %s "$file") bytes)"
+	elif grep -qP '\x00' "$file"; then
 		iconv -f UTF-16 -t UTF-8 "$file"
 	else
 		cat "$file"

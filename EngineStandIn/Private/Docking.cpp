@@ -135,6 +135,11 @@ TSharedPtr<SDockTab> FTabManager::TryInvokeTab(const FTabId& TabId)
 	return Spawner ? StandIn::FTabManagerAccess::Spawn(*Spawner, TabId) : TSharedPtr<SDockTab>();
 }
 
+bool FTabManager::HasTabSpawner(FName TabId) const
+{
+	return StandIn::FTabManagerAccess::FindSpawner(TabId) != nullptr;
+}
+
 const TSharedRef<FGlobalTabmanager>& FGlobalTabmanager::Get()
 {
 	static const TSharedRef<FGlobalTabmanager> Instance = StandIn::FTabManagerAccess::MakeGlobal();

@@ -7,7 +7,9 @@
 namespace StandInModules
 {
 	// Each defined in the file of the same name beside this one; a new engine module is one more line here.
+	IModuleInterface* InitializeAssetRegistryModule();
 	IModuleInterface* InitializeDesktopPlatformModule();
+	IModuleInterface* InitializeLevelEditorModule();
 	IModuleInterface* InitializeMainFrameModule();
 	IModuleInterface* InitializePluginBrowserModule();
 	IModuleInterface* InitializeUATHelperModule();
@@ -17,7 +19,9 @@ namespace StandInModules
 		std::vector<std::pair<FName, FInitializeModule>>& Initializers()
 		{
 			static std::vector<std::pair<FName, FInitializeModule>> List = {
+				{TEXT("AssetRegistry"), &InitializeAssetRegistryModule},
 				{TEXT("DesktopPlatform"), &InitializeDesktopPlatformModule},
+				{TEXT("LevelEditor"), &InitializeLevelEditorModule},
 				{TEXT("MainFrame"), &InitializeMainFrameModule},
 				{TEXT("PluginBrowser"), &InitializePluginBrowserModule},
 				{TEXT("UATHelper"), &InitializeUATHelperModule},
@@ -47,6 +51,34 @@ namespace StandInModules
 	{
 		check(FindInitializer(ModuleName) == nullptr);
 		Initializers().emplace_back(ModuleName, std::move(Initializer));
+	}
+
+	FModuleRegistrant::FModuleRegistrant(const TCHAR* ModuleName, IModuleInterface* (*InitializeModule)())
+	{
+		Register(FName(ModuleName), InitializeModule);
+	}
+
+	std::vector<FName> LoadedModuleNames()
+	{
+		std::vector<FName> Names;
+		for (const FModuleManager::FLoadedModule& Loaded : FModuleManager::Get().LoadedModules)
+		{
+			Names.push_back(Loaded.Name);
+		}
+		return Names;
+	}
+}
+
+namespace StandIn
+{
+	std::vector<FString> LoadedModules()
+	{
+		std::vector<FString> Names;
+		for (const FName& Name : StandInModules::LoadedModuleNames())
+		{
+			Names.push_back(Name.ToString());
+		}
+		return Names;
 	}
 }
 
@@ -119,4 +151,28 @@ IModuleInterface& FModuleManager::LoadModuleChecked(const FName InModuleName)
 	IModuleInterface* Module = LoadModule(InModuleName);
 	checkf(Module, TEXT("%s"), *InModuleName.ToString());
 	return *Module;
+}
+
+bool FModuleManager::UnloadModule(const FName InModuleName, bool bIsShutdown)
+{
+	const auto Find = [this, &InModuleName]() {
+		auto It = LoadedModules.begin();
+		while (It != LoadedModules.end() && It->Name != InModuleName)
+		{
+			++It;
+		}
+		return It;
+	};
+	auto It = Find();
+	if (It == LoadedModules.end())
+	{
+		return false;
+	}
+	// Still loaded while it shuts down, as in the engine; then the object is destroyed.
+	It->Module->ShutdownModule();
+	It = Find();
+	std::unique_ptr<IModuleInterface> Module = std::move(It->Module);
+	LoadedModules.erase(It);
+	Module.reset();
+	return true;
 }

@@ -2,6 +2,7 @@
 #include "Framework/Commands/UICommandList.h"
 #include "Framework/MultiBox/MultiBox.h"
 #include "Framework/MultiBox/MultiBoxBuilder.h"
+#include "Framework/MultiBox/MultiBoxExtender.h"
 #include "MultiBoxBlocks.h"
 
 FUIAction::FUIAction()
@@ -24,6 +25,11 @@ FUIAction::FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCan
 void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, EUIActionRepeatMode RepeatMode)
 {
 	MapAction(InUICommandInfo, FUIAction(ExecuteAction, FCanExecuteAction(), RepeatMode));
+}
+
+void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction, EUIActionRepeatMode RepeatMode)
+{
+	MapAction(InUICommandInfo, FUIAction(ExecuteAction, CanExecuteAction, RepeatMode));
 }
 
 void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, const FUIAction& InUIAction)
@@ -84,6 +90,20 @@ FMultiBoxBuilder::FMultiBoxBuilder(const EMultiBoxType InType, const bool bInSho
 	: MultiBox(MakeShareable(new FMultiBox(InType, bInShouldCloseWindowAfterMenuSelection)))
 {
 	CommandListStack.push_back(InCommandList);
+	ExtenderStack.push_back(InExtender);
+}
+
+void FMultiBoxBuilder::PushCommandList(const TSharedRef<const FUICommandList> CommandList)
+{
+	CommandListStack.push_back(CommandList);
+}
+
+void FMultiBoxBuilder::PopCommandList()
+{
+	if (ensure(CommandListStack.size() > 1))
+	{
+		CommandListStack.pop_back();
+	}
 }
 
 TSharedRef<SWidget> FMultiBoxBuilder::MakeWidget(FMultiBox::FOnMakeMultiBoxBuilderOverride* InMakeMultiBoxBuilderOverride, uint32 MaxHeight)
@@ -105,6 +125,7 @@ FBaseMenuBuilder::FBaseMenuBuilder(const EMultiBoxType InType, const bool bInSho
 void FBaseMenuBuilder::AddMenuEntry(const TSharedPtr<const FUICommandInfo> InCommand, FName InExtensionHook, const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const FSlateIcon& InIconOverride, FName InTutorialHighlightName)
 {
 	ApplySectionBeginning();
+	ApplyHook(InExtensionHook, EExtensionHook::Before);
 	check(InCommand.IsValid());
 	auto Block = std::make_shared<StandIn::FMultiBlock>();
 	Block->Kind = StandIn::FMultiBlock::EKind::Entry;
@@ -112,8 +133,12 @@ void FBaseMenuBuilder::AddMenuEntry(const TSharedPtr<const FUICommandInfo> InCom
 	Block->CommandList = CommandListStack.back();
 	Block->LabelOverride = InLabelOverride;
 	Block->ToolTipOverride = InToolTipOverride;
-	Block->IconOverride = InIconOverride;
+	if (InIconOverride.IsSet())
+	{
+		Block->IconOverride = InIconOverride;
+	}
 	MultiBox->Blocks.push_back(Block);
+	ApplyHook(InExtensionHook, EExtensionHook::After);
 }
 
 FMenuBuilder::FMenuBuilder(const bool bInShouldCloseWindowAfterMenuSelection, TSharedPtr<const FUICommandList> InCommandList, TSharedPtr<FExtender> InExtender, const bool bCloseSelfOnly, const ISlateStyle* InStyleSet, bool bInSearchable, FName InMenuName)
@@ -135,6 +160,7 @@ TSharedRef<SWidget> FMenuBuilder::MakeWidget(FMultiBox::FOnMakeMultiBoxBuilderOv
 void FMenuBuilder::BeginSection(FName InExtensionHook, const TAttribute<FText>& InHeadingText)
 {
 	check(CurrentSectionExtensionHook == NAME_None && !bSectionNeedsToBeApplied);
+	ApplyHook(InExtensionHook, EExtensionHook::Before);
 	bSectionNeedsToBeApplied = true;
 	CurrentSectionExtensionHook = InExtensionHook;
 	CurrentSectionHeadingText = InHeadingText.Get();
@@ -142,9 +168,40 @@ void FMenuBuilder::BeginSection(FName InExtensionHook, const TAttribute<FText>& 
 
 void FMenuBuilder::EndSection()
 {
+	const FName SectionExtensionHook = CurrentSectionExtensionHook;
 	CurrentSectionExtensionHook = NAME_None;
 	bSectionNeedsToBeApplied = false;
 	CurrentSectionHeadingText = FText::GetEmpty();
+	ApplyHook(SectionExtensionHook, EExtensionHook::After);
+}
+
+void FMenuBuilder::AddSubMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FNewMenuDelegate& InSubMenu, const bool bInOpenSubMenuOnClick, const FSlateIcon& InIcon, const bool bInShouldCloseWindowAfterMenuSelection, FName InExtensionHook)
+{
+	ApplySectionBeginning();
+	ApplyHook(InExtensionHook, EExtensionHook::Before);
+	auto Block = std::make_shared<StandIn::FMultiBlock>();
+	Block->Kind = StandIn::FMultiBlock::EKind::SubMenu;
+	Block->CommandList = CommandListStack.back();
+	Block->LabelOverride = InMenuLabel;
+	Block->ToolTipOverride = InToolTip;
+	if (InIcon.IsSet())
+	{
+		Block->IconOverride = InIcon;
+	}
+	Block->SubMenuBuilder = InSubMenu;
+	Block->bOpenSubMenuOnClick = bInOpenSubMenuOnClick;
+	Block->bShouldCloseWindowAfterMenuSelection = bInShouldCloseWindowAfterMenuSelection;
+	MultiBox->Blocks.push_back(Block);
+	ApplyHook(InExtensionHook, EExtensionHook::After);
+}
+
+void FMenuBuilder::ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition)
+{
+	const TSharedPtr<FExtender>& Extender = ExtenderStack.back();
+	if (InExtensionHook != NAME_None && Extender.IsValid())
+	{
+		Extender->Apply(InExtensionHook, HookPosition, *this);
+	}
 }
 
 void FMenuBuilder::ApplySectionBeginning()
@@ -168,5 +225,82 @@ void FMenuBuilder::ApplySectionBeginning()
 		}
 		bSectionNeedsToBeApplied = false;
 		CurrentSectionHeadingText = FText::GetEmpty();
+	}
+}
+
+const FMultiBoxCustomization FMultiBoxCustomization::None(NAME_None);
+
+FToolBarBuilder::FToolBarBuilder(TSharedPtr<const FUICommandList> InCommandList, FMultiBoxCustomization InCustomization, TSharedPtr<FExtender> InExtender, const bool InForceSmallIcons)
+	: FMultiBoxBuilder(EMultiBoxType::ToolBar, false, InCommandList, InExtender), bSectionNeedsToBeApplied(false)
+{
+}
+
+void FToolBarBuilder::AddToolBarButton(const TSharedPtr<const FUICommandInfo> InCommand, FName InExtensionHook, const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride, FName InTutorialHighlightName)
+{
+	ApplySectionBeginning();
+	ApplyHook(InExtensionHook, EExtensionHook::Before);
+	check(InCommand.IsValid());
+	auto Block = std::make_shared<StandIn::FMultiBlock>();
+	Block->Kind = StandIn::FMultiBlock::EKind::ToolBarButton;
+	Block->Command = InCommand;
+	Block->CommandList = CommandListStack.back();
+	Block->LabelOverride = InLabelOverride;
+	Block->ToolTipOverride = InToolTipOverride;
+	Block->IconOverride = InIconOverride;
+	MultiBox->Blocks.push_back(Block);
+	ApplyHook(InExtensionHook, EExtensionHook::After);
+}
+
+void FToolBarBuilder::AddComboButton(const FUIAction& InAction, const FOnGetContent& InMenuContentGenerator, const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride, bool bInSimpleComboBox, FName InTutorialHighlightName)
+{
+	ApplySectionBeginning();
+	auto Block = std::make_shared<StandIn::FMultiBlock>();
+	Block->Kind = StandIn::FMultiBlock::EKind::ComboButton;
+	Block->CommandList = CommandListStack.back();
+	Block->Action = InAction;
+	Block->MenuContentGenerator = InMenuContentGenerator;
+	Block->LabelOverride = InLabelOverride;
+	Block->ToolTipOverride = InToolTipOverride;
+	Block->IconOverride = InIconOverride;
+	Block->bSimpleComboBox = bInSimpleComboBox;
+	MultiBox->Blocks.push_back(Block);
+}
+
+void FToolBarBuilder::BeginSection(FName InExtensionHook)
+{
+	check(CurrentSectionExtensionHook == NAME_None && !bSectionNeedsToBeApplied);
+	ApplyHook(InExtensionHook, EExtensionHook::Before);
+	bSectionNeedsToBeApplied = true;
+	CurrentSectionExtensionHook = InExtensionHook;
+}
+
+void FToolBarBuilder::EndSection()
+{
+	const FName SectionExtensionHook = CurrentSectionExtensionHook;
+	CurrentSectionExtensionHook = NAME_None;
+	bSectionNeedsToBeApplied = false;
+	ApplyHook(SectionExtensionHook, EExtensionHook::After);
+}
+
+void FToolBarBuilder::ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition)
+{
+	const TSharedPtr<FExtender>& Extender = ExtenderStack.back();
+	if (InExtensionHook != NAME_None && Extender.IsValid())
+	{
+		Extender->Apply(InExtensionHook, HookPosition, *this);
+	}
+}
+
+void FToolBarBuilder::ApplySectionBeginning()
+{
+	if (bSectionNeedsToBeApplied)
+	{
+		if (!MultiBox->Blocks.empty())
+		{
+			auto Separator = std::make_shared<StandIn::FMultiBlock>();
+			Separator->Kind = StandIn::FMultiBlock::EKind::Separator;
+			MultiBox->Blocks.push_back(Separator);
+		}
+		bSectionNeedsToBeApplied = false;
 	}
 }

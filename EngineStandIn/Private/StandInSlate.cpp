@@ -137,13 +137,41 @@ namespace StandIn
 		const std::vector<FMenuEntry> Entries = Input.Entries(Menu.Get());
 		for (size_t Index = 0; Index < Entries.size(); ++Index)
 		{
-			if (Entries[Index].Kind == FMenuEntry::EKind::Entry && Entries[Index].Label.ToString().Equals(Label, ESearchCase::CaseSensitive))
+			const FMenuEntry::EKind Kind = Entries[Index].Kind;
+			if (Kind != FMenuEntry::EKind::Heading && Kind != FMenuEntry::EKind::Separator && Entries[Index].Label.ToString().Equals(Label, ESearchCase::CaseSensitive))
 			{
 				Input.ClickEntry(Menu.Get(), Index);
 				return true;
 			}
 		}
 		return false;
+	}
+
+	namespace
+	{
+		TSharedPtr<SWidget> OpenEntryOfKind(const TSharedRef<SWidget>& Menu, const FString& Label, FMenuEntry::EKind Kind)
+		{
+			const IMultiBoxInput& Input = InputOf<IMultiBoxInput>(Menu, "a menu");
+			const std::vector<FMenuEntry> Entries = Input.Entries(Menu.Get());
+			for (size_t Index = 0; Index < Entries.size(); ++Index)
+			{
+				if (Entries[Index].Kind == Kind && Entries[Index].Label.ToString().Equals(Label, ESearchCase::CaseSensitive))
+				{
+					return Input.OpenEntry(Menu.Get(), Index);
+				}
+			}
+			return nullptr;
+		}
+	}
+
+	TSharedPtr<SWidget> OpenSubMenu(const TSharedRef<SWidget>& Menu, const FString& Label)
+	{
+		return OpenEntryOfKind(Menu, Label, FMenuEntry::EKind::SubMenu);
+	}
+
+	TSharedPtr<SWidget> OpenComboDropDown(const TSharedRef<SWidget>& ToolBar, const FString& Label)
+	{
+		return OpenEntryOfKind(ToolBar, Label, FMenuEntry::EKind::ComboButton);
 	}
 
 	bool CommitText(const TSharedRef<SWidget>& TextWidget, const FString& Text, ETextCommit::Type CommitType)

@@ -22,6 +22,7 @@
 #include "Templates/SharedPointer.h"
 #include "Delegates/Delegate.h"
 #include "Misc/Optional.h"
+#include "Templates/UniquePtr.h"
 #include "Internationalization/Text.h"
 #include "Internationalization/Internationalization.h"
 #include "Misc/DateTime.h"

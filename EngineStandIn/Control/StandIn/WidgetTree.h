@@ -60,14 +60,19 @@ namespace StandIn
 	// The text the widget shows, or else the first non-empty text below it (depth first).
 	FText ShownText(const TSharedRef<SWidget>& Widget);
 
-	// A line of a menu that FMenuBuilder made, as the open menu shows it.
+	// A line of a menu that FMenuBuilder made, or a block of a tool bar that FToolBarBuilder made, as it shows.
 	struct FMenuEntry
 	{
 		enum class EKind
 		{
 			Heading,
 			Separator,
-			Entry
+			// A menu entry for a command.
+			Entry,
+			SubMenu,
+			// A tool bar button for a command.
+			ToolBarButton,
+			ComboButton
 		};
 		EKind Kind = EKind::Entry;
 		// A heading's text, or an entry's label: the label override if it was given, else the command's.
@@ -80,8 +85,16 @@ namespace StandIn
 		// What that icon resolves to, null without an icon. A brush without a resource (such as the
 		// style defaults' no-brush) draws nothing.
 		const FSlateBrush* IconBrush = nullptr;
+		// A sub-menu's: whether it opens on a click rather than on hover, and whether choosing in it closes
+		// the whole menu.
+		bool bOpensOnClick = false;
+		bool bClosesMenuAfterSelection = false;
+		// A combo button's: whether its own part has an action bound, and whether it shows as a simple combo
+		// box, without icon and label.
+		bool bHasOwnAction = false;
+		bool bIsSimpleComboBox = false;
 	};
-	// The lines of a menu widget (what FMenuBuilder::MakeWidget returned), in order; the hidden search box
-	// is not among them.
+	// The lines of a menu widget or the blocks of a tool bar widget (what FMenuBuilder::MakeWidget or
+	// FToolBarBuilder::MakeWidget returned), in order; the hidden search box is not among them.
 	std::vector<FMenuEntry> MenuEntries(const TSharedRef<SWidget>& Menu);
 }

@@ -61,6 +61,9 @@ namespace StandIn
 	// the content of the enabled ones. A world without a project file counts as a project that lists nothing.
 	void DiscoverPlugins();
 
+	// The names of the loaded modules, in the order they were loaded.
+	std::vector<FString> LoadedModules();
+
 	// Host path of a Windows path ("C:/Work/x" -> "<DriveRoot>/C/Work/x"); relative paths are taken from
 	// the editor's current directory.
 	std::string HostPath(const FString& WindowsPath);

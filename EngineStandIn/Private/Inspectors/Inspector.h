@@ -83,6 +83,9 @@ namespace StandIn
 		virtual std::vector<FMenuEntry> Entries(SWidget& Menu) const = 0;
 		// The entry at this index of Entries().
 		virtual void ClickEntry(SWidget& Menu, size_t EntryIndex) const = 0;
+		// The content of the sub-menu or the drop-down at this index of Entries(), built now; null for
+		// other entries.
+		virtual TSharedPtr<SWidget> OpenEntry(SWidget& Menu, size_t EntryIndex) const = 0;
 	};
 
 	class ITextInput

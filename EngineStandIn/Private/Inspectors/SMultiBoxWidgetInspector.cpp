@@ -1,4 +1,5 @@
 #include "Framework/MultiBox/MultiBox.h"
+#include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "Inspector.h"
 #include "Private/MultiBoxBlocks.h"
 
@@ -23,11 +24,45 @@ namespace StandIn
 			const std::vector<const FMultiBlock*> Blocks = ShownBlocks(Menu);
 			check(EntryIndex < Blocks.size());
 			const FMultiBlock& Block = *Blocks[EntryIndex];
+			switch (Block.Kind)
+			{
+			case FMultiBlock::EKind::ComboButton:
+				// Its own part: an empty action does nothing; the drop-down opens through its arrow.
+				Block.Action.Execute();
+				return;
+			case FMultiBlock::EKind::SubMenu:
+				if (Block.bOpenSubMenuOnClick)
+				{
+					OpenEntry(Menu, EntryIndex);
+				}
+				return;
+			default:
+				break;
+			}
 			// A command the entry's list does not map does nothing.
 			if (Block.CommandList.IsValid() && Block.Command.IsValid())
 			{
 				Block.CommandList->ExecuteAction(Block.Command.ToSharedRef());
 			}
+		}
+
+		virtual TSharedPtr<SWidget> OpenEntry(SWidget& Menu, size_t EntryIndex) const override
+		{
+			const std::vector<const FMultiBlock*> Blocks = ShownBlocks(Menu);
+			check(EntryIndex < Blocks.size());
+			const FMultiBlock& Block = *Blocks[EntryIndex];
+			if (Block.Kind == FMultiBlock::EKind::SubMenu)
+			{
+				// As the engine's menu entry does: a new menu with the list the entry was added with.
+				FMenuBuilder SubMenuBuilder(Block.bShouldCloseWindowAfterMenuSelection, Block.CommandList);
+				Block.SubMenuBuilder.ExecuteIfBound(SubMenuBuilder);
+				return SubMenuBuilder.MakeWidget();
+			}
+			if (Block.Kind == FMultiBlock::EKind::ComboButton && Block.MenuContentGenerator.IsBound())
+			{
+				return Block.MenuContentGenerator.Execute();
+			}
+			return nullptr;
 		}
 
 	private:
@@ -63,11 +98,29 @@ namespace StandIn
 			default:
 				break;
 			}
-			Entry.Kind = FMenuEntry::EKind::Entry;
+			switch (Block.Kind)
+			{
+			case FMultiBlock::EKind::SubMenu:
+				Entry.Kind = FMenuEntry::EKind::SubMenu;
+				Entry.bOpensOnClick = Block.bOpenSubMenuOnClick;
+				Entry.bClosesMenuAfterSelection = Block.bShouldCloseWindowAfterMenuSelection;
+				break;
+			case FMultiBlock::EKind::ToolBarButton:
+				Entry.Kind = FMenuEntry::EKind::ToolBarButton;
+				break;
+			case FMultiBlock::EKind::ComboButton:
+				Entry.Kind = FMenuEntry::EKind::ComboButton;
+				Entry.bHasOwnAction = Block.Action.IsBound();
+				Entry.bIsSimpleComboBox = Block.bSimpleComboBox;
+				break;
+			default:
+				Entry.Kind = FMenuEntry::EKind::Entry;
+				break;
+			}
 			const bool bHasCommand = Block.Command.IsValid();
 			Entry.Label = Block.LabelOverride.IsSet() ? Block.LabelOverride.Get() : (bHasCommand ? Block.Command->GetLabel() : FText::GetEmpty());
 			Entry.ToolTip = Block.ToolTipOverride.IsSet() ? Block.ToolTipOverride.Get() : (bHasCommand ? Block.Command->GetDescription() : FText::GetEmpty());
-			const FSlateIcon Icon = Block.IconOverride.IsSet() ? Block.IconOverride : (bHasCommand ? Block.Command->GetIcon() : FSlateIcon());
+			const FSlateIcon Icon = Block.IconOverride.IsSet() ? Block.IconOverride.Get() : (bHasCommand ? Block.Command->GetIcon() : FSlateIcon());
 			if (Icon.IsSet())
 			{
 				Entry.IconStyleSetName = Icon.GetStyleSetName();

@@ -59,6 +59,12 @@ public:
 		Items.emplace_back();
 		return Items.back();
 	}
+	// The index of the element, added only when it was not there yet.
+	int32 AddUnique(const ElementType& Item)
+	{
+		const int32 Index = Find(Item);
+		return Index != INDEX_NONE ? Index : Add(Item);
+	}
 	void Reserve(int32 Number) { Items.reserve((size_t)Number); }
 	void Append(const TArray& Other) { Items.insert(Items.end(), Other.Items.begin(), Other.Items.end()); }
 	void Insert(const ElementType& Item, int32 Index)
@@ -78,6 +84,13 @@ public:
 		const int32 OldNum = Num();
 		Items.erase(std::remove_if(Items.begin(), Items.end(), Predicate), Items.end());
 		return OldNum - Num();
+	}
+	// Every element equal to the item goes; gives how many went.
+	int32 Remove(const ElementType& Item)
+	{
+		return RemoveAll([&Item](const ElementType& Element) {
+			return Element == Item;
+		});
 	}
 	void Empty(int32 Slack = 0)
 	{

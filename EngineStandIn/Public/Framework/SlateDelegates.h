@@ -7,6 +7,7 @@
 class SWidget;
 
 DECLARE_DELEGATE_RetVal(FReply, FOnClicked);
+DECLARE_DELEGATE_RetVal(TSharedRef<SWidget>, FOnGetContent);
 DECLARE_DELEGATE_OneParam(FOnTextChanged, const FText&);
 DECLARE_DELEGATE_TwoParams(FOnTextCommitted, const FText&, ETextCommit::Type);
 

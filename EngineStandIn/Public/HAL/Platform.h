@@ -24,6 +24,8 @@ typedef wchar_t TCHAR;
 #define UNREALED_API
 #define PROJECTS_API
 #define UE_NODISCARD [[nodiscard]]
+// What a module exports from its binary; the engine's Linux build marks such symbols visible.
+#define DLLEXPORT __attribute__((visibility("default")))
 
 enum
 {

@@ -12,6 +12,9 @@ struct FLogCategoryBase
 	}
 	bool IsSuppressed(ELogVerbosity::Type VerbosityLevel) const { return VerbosityLevel > Verbosity; }
 	const FName& GetCategoryName() const { return Name; }
+	ELogVerbosity::Type GetVerbosity() const { return Verbosity; }
+	// What prints from now on, as the console's "Log <category> <verbosity>" sets it.
+	void SetVerbosity(ELogVerbosity::Type InVerbosity) { Verbosity = InVerbosity; }
 
 private:
 	FName Name;

@@ -8,6 +8,14 @@
 namespace StandInModules
 {
 	void UnloadAll();
+	std::vector<FName> LoadedModuleNames();
+
+	// Made by IMPLEMENT_MODULE before main runs: the module becomes loadable by its name through its
+	// exported entry point, as a module binary on the engine's search path is.
+	struct FModuleRegistrant
+	{
+		FModuleRegistrant(const TCHAR* ModuleName, IModuleInterface* (*InitializeModule)());
+	};
 }
 
 // Loads modules by name and keeps them loaded. The stand-in has no module files: the modules it can load
@@ -22,6 +30,8 @@ public:
 	IModuleInterface* LoadModule(const FName InModuleName);
 	// A module that cannot be loaded ends the editor.
 	IModuleInterface& LoadModuleChecked(const FName InModuleName);
+	// Shuts the module down and destroys it; false when it was not loaded.
+	bool UnloadModule(const FName InModuleName, bool bIsShutdown = false);
 
 	template <typename TModuleInterface>
 	static TModuleInterface& LoadModuleChecked(const FName InModuleName)
@@ -32,6 +42,7 @@ public:
 
 private:
 	friend void StandInModules::UnloadAll();
+	friend std::vector<FName> StandInModules::LoadedModuleNames();
 
 	FModuleManager();
 	~FModuleManager();
@@ -44,3 +55,11 @@ private:
 	// In load order.
 	std::vector<FLoadedModule> LoadedModules;
 };
+
+#define IMPLEMENT_MODULE(ModuleImplClass, ModuleName)         \
+	extern "C" DLLEXPORT IModuleInterface* InitializeModule() \
+	{                                                         \
+		return new ModuleImplClass();                         \
+	}                                                         \
+	extern "C" void IMPLEMENT_MODULE_##ModuleName() {}        \
+	static StandInModules::FModuleRegistrant ModuleRegistrant##ModuleName(TEXT(#ModuleName), &InitializeModule);

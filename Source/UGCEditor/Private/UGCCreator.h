@@ -9,9 +9,9 @@ class SDockTab;
 
 /**
  * The "Create New Mod" tab: the Plugin Browser's plugin wizard, driven by this module's mod templates.
- * The tab is registered for as long as this object lives.
+ * The tab is registered for as long as this object lives; the module holds it shared, like its other features.
  */
-class FUGCCreator
+class FUGCCreator : public TSharedFromThis<FUGCCreator>
 {
 public:
 	FUGCCreator();

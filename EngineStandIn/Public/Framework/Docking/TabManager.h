@@ -103,6 +103,9 @@ public:
 	// Brings a live tab to the front, or spawns it; null when nothing could be spawned.
 	TSharedPtr<SDockTab> TryInvokeTab(const FTabId& TabId);
 
+	// Whether a spawner is registered for the tab.
+	bool HasTabSpawner(FName TabId) const;
+
 protected:
 	FTabManager() {}
 };

@@ -28,6 +28,7 @@ private:
 	friend class FMultiBoxBuilder;
 	friend class FBaseMenuBuilder;
 	friend class FMenuBuilder;
+	friend class FToolBarBuilder;
 	friend class StandIn::FMultiBoxWidgetInspector;
 
 	FMultiBox(const EMultiBoxType InType, const bool bInShouldCloseWindowAfterMenuSelection);

@@ -12,3 +12,19 @@ enum class EMultiBoxType : uint8
 	Menu,
 	ButtonRow,
 };
+
+// Whether and under which name the user may customise a multi-box; the stand-in's never are.
+struct SLATE_API FMultiBoxCustomization
+{
+	static const FMultiBoxCustomization None;
+
+	FMultiBoxCustomization(FName InCustomizationName)
+		: CustomizationName(InCustomizationName)
+	{
+	}
+
+	FName GetCustomizationName() const { return CustomizationName; }
+
+private:
+	FName CustomizationName;
+};

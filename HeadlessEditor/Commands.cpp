@@ -1,0 +1,286 @@
+#include "Commands.h"
+#include "StandIn/Records/TabRecord.h"
+#include "StandIn/Records/WindowRecord.h"
+#include "StandIn/UserInput.h"
+#include "StandIn/WidgetTree.h"
+#include "StandIn/World.h"
+#include "Styling/SlateBrush.h"
+#include "Styling/StyleDefaults.h"
+#include <cmath>
+#include <functional>
+#include <iostream>
+
+namespace
+{
+	// Depth first, the first widget that matches.
+	TSharedPtr<SWidget> FindWidget(const TSharedRef<SWidget>& Root, const std::function<bool(const TSharedRef<SWidget>&)>& Matches)
+	{
+		if (Matches(Root))
+		{
+			return Root;
+		}
+		for (const StandIn::FChildSlot& Child : StandIn::ChildSlots(Root))
+		{
+			if (TSharedPtr<SWidget> Found = FindWidget(Child.Widget, Matches))
+			{
+				return Found;
+			}
+		}
+		return nullptr;
+	}
+
+	TSharedRef<SWidget> FindByType(const TSharedRef<SWidget>& Root, const std::string& TypePrefix)
+	{
+		TSharedPtr<SWidget> Found = FindWidget(Root, [&TypePrefix](const TSharedRef<SWidget>& Widget) {
+			return StandIn::WidgetType(Widget).rfind(TypePrefix, 0) == 0;
+		});
+		check(Found.IsValid());
+		return Found.ToSharedRef();
+	}
+
+	TSharedRef<SWidget> FindButton(const TSharedRef<SWidget>& Root, const TCHAR* Caption)
+	{
+		TSharedPtr<SWidget> Found = FindWidget(Root, [Caption](const TSharedRef<SWidget>& Widget) {
+			return StandIn::WidgetType(Widget) == "SButton" && StandIn::Paint(Widget).Text.ToString().Equals(Caption, ESearchCase::CaseSensitive);
+		});
+		check(Found.IsValid());
+		return Found.ToSharedRef();
+	}
+
+	// The grid cell of the dialog's frame at a row of its first column.
+	TSharedRef<SWidget> FrameCell(const TSharedRef<SWidget>& Dialog, int32 Row)
+	{
+		const TSharedRef<SWidget> Grid = FindByType(Dialog, "SGridPanel");
+		for (const StandIn::FChildSlot& Cell : StandIn::ChildSlots(Grid))
+		{
+			if (Cell.Column == 0 && Cell.Row == Row)
+			{
+				return Cell.Widget;
+			}
+		}
+		check(false);
+		return Grid;
+	}
+
+	std::string OfferedNames(const TSharedRef<SWidget>& ComboBox)
+	{
+		std::string Names;
+		for (const TSharedRef<SWidget>& Row : StandIn::OpenComboBox(ComboBox))
+		{
+			Names += (Names.empty() ? "" : ", ") + StandIn::ToUtf8(StandIn::ShownText(Row).ToString());
+		}
+		return Names.empty() ? "none" : Names;
+	}
+
+	// The command needs something the editor does not show; nothing more is done.
+	struct FCommandError
+	{
+		std::string Message;
+	};
+
+	// Adds one entry as a person would and fills it in; throws when the dialog will not take the plugin.
+	void AddEntry(const TSharedRef<SWidget>& Dialog, const TSharedRef<SWidget>& EntriesBox, const FEditorCommandLine::FPluginChoice& Plugin)
+	{
+		const size_t FirstNewSlot = StandIn::ChildSlots(EntriesBox).size();
+		StandIn::ClickButton(FindButton(Dialog, TEXT("Add Plugin")));
+		const std::vector<StandIn::FChildSlot> Slots = StandIn::ChildSlots(EntriesBox);
+		if (Slots.size() < FirstNewSlot + 2)
+		{
+			throw FCommandError{"\"Add Plugin\" added no entry for --plugin " + Plugin.Name + "; nothing was distributed."};
+		}
+		const TSharedRef<SWidget> SelectionRow = Slots[FirstNewSlot].Widget;
+		const TSharedRef<SWidget> DLCBlock = Slots[FirstNewSlot + 1].Widget;
+
+		const TSharedRef<SWidget> ComboBox = FindByType(SelectionRow, "SComboBox");
+		if (!StandIn::ChooseComboOption(ComboBox, StandIn::FromUtf8(Plugin.Name)))
+		{
+			throw FCommandError{"the dialog offers no cooked plugin named " + Plugin.Name + " (it offers: " + OfferedNames(ComboBox) + "); nothing was distributed."};
+		}
+		if (Plugin.bOriginal)
+		{
+			StandIn::ClickCheckBox(FindByType(SelectionRow, "SCheckBox"));
+		}
+		if (Plugin.RequiredDLCs)
+		{
+			StandIn::CommitText(FindByType(DLCBlock, "SEditableTextBox"), StandIn::FromUtf8(*Plugin.RequiredDLCs));
+		}
+	}
+}
+
+namespace
+{
+	std::string Size(float Value)
+	{
+		return Value == std::floor(Value) ? std::to_string((long long)Value) : std::to_string(Value);
+	}
+
+	std::string Brush(const StandIn::FMenuEntry& Entry)
+	{
+		if (Entry.IconStyleSetName == NAME_None && Entry.IconStyleName == NAME_None)
+		{
+			return "none";
+		}
+		if (Entry.IconBrush == nullptr || Entry.IconBrush == FStyleDefaults::GetNoBrush())
+		{
+			return "no brush";
+		}
+		const FVector2D ImageSize = Entry.IconBrush->GetImageSize();
+		return StandIn::ToUtf8(Entry.IconBrush->GetResourceName().ToString()) + " " + Size(ImageSize.X) + "x" + Size(ImageSize.Y);
+	}
+
+	// One line an entry, as a person reads the menu or tool bar at this place.
+	void ListMenu(const std::string& Place, const TSharedRef<SWidget>& Menu)
+	{
+		static const char* const Kinds[] = {"heading", "separator", "entry", "sub-menu", "button", "combo"};
+		bool bAnyEntry = false;
+		for (const StandIn::FMenuEntry& Entry : StandIn::MenuEntries(Menu))
+		{
+			const std::string Label = StandIn::ToUtf8(Entry.Label.ToString());
+			if (Entry.Kind == StandIn::FMenuEntry::EKind::Heading)
+			{
+				std::cout << "Menu: " << Place << " | heading | " << Label << '\n';
+				continue;
+			}
+			if (Entry.Kind == StandIn::FMenuEntry::EKind::Separator)
+			{
+				continue;
+			}
+			bAnyEntry = true;
+			const std::string Icon = Entry.IconStyleSetName == NAME_None && Entry.IconStyleName == NAME_None ? "none" : StandIn::ToUtf8(Entry.IconStyleSetName.ToString()) + "/" + StandIn::ToUtf8(Entry.IconStyleName.ToString());
+			std::cout << "Menu: " << Place << " | " << Kinds[(int)Entry.Kind] << " | " << Label << " | " << StandIn::ToUtf8(Entry.ToolTip.ToString()) << " | " << Icon << " | " << Brush(Entry) << '\n';
+		}
+		if (!bAnyEntry)
+		{
+			std::cout << "Menu: " << Place << " | empty\n";
+		}
+	}
+
+	std::string EntryLabels(const TSharedRef<SWidget>& Menu)
+	{
+		std::string Labels;
+		for (const StandIn::FMenuEntry& Entry : StandIn::MenuEntries(Menu))
+		{
+			if (Entry.Kind == StandIn::FMenuEntry::EKind::Entry)
+			{
+				Labels += (Labels.empty() ? "" : ", ") + StandIn::ToUtf8(Entry.Label.ToString());
+			}
+		}
+		return Labels.empty() ? "none" : Labels;
+	}
+
+	TSharedRef<SWidget> OpenCookModSubMenu()
+	{
+		const TSharedPtr<SWidget> SubMenu = StandIn::OpenSubMenu(StandIn::OpenLevelEditorMenu(TEXT("FileProject")), TEXT("Cook Mod"));
+		check(SubMenu.IsValid());
+		return SubMenu.ToSharedRef();
+	}
+
+	TSharedRef<SWidget> OpenCookModDropDown()
+	{
+		const TSharedPtr<SWidget> DropDown = StandIn::OpenComboDropDown(StandIn::OpenLevelEditorToolBar(TEXT("Compile")), TEXT("Cook Mod"));
+		check(DropDown.IsValid());
+		return DropDown.ToSharedRef();
+	}
+
+	void RunMenus()
+	{
+		ListMenu("FileProject", StandIn::OpenLevelEditorMenu(TEXT("FileProject")));
+		ListMenu("Compile", StandIn::OpenLevelEditorToolBar(TEXT("Compile")));
+		ListMenu("Cook Mod sub-menu", OpenCookModSubMenu());
+		ListMenu("Cook Mod drop-down", OpenCookModDropDown());
+		ListMenu("Cook Mod sub-menu", OpenCookModSubMenu());
+	}
+
+	void RunCook(const FEditorCommandLine& CommandLine)
+	{
+		const TSharedRef<SWidget> DropDown = OpenCookModDropDown();
+		ListMenu("Cook Mod drop-down", DropDown);
+		if (!StandIn::ClickMenuEntry(DropDown, StandIn::FromUtf8(CommandLine.Name)))
+		{
+			throw FCommandError{"the \"Cook Mod\" drop-down offers no plugin named " + CommandLine.Name + " (it offers: " + EntryLabels(DropDown) + "); nothing was cooked."};
+		}
+	}
+
+	void RunCreate(const FEditorCommandLine& CommandLine)
+	{
+		const size_t FirstTab = StandIn::JournalRecords<StandIn::FTabRecord>().size();
+		StandIn::ClickMenuEntry(StandIn::OpenLevelEditorMenu(TEXT("FileProject")), TEXT("Create Mod"));
+		const std::vector<const StandIn::FTabRecord*> Tabs = StandIn::JournalRecords<StandIn::FTabRecord>();
+		if (Tabs.size() == FirstTab)
+		{
+			return;
+		}
+		const TSharedRef<SWidget> Tab = Tabs.back()->Tab;
+		const TSharedRef<SWidget> TemplateList = FindByType(Tab, "SPluginTemplateList");
+		const TSharedRef<SWidget> NameBox = FindByType(Tab, "SEditableTextBox");
+		const TSharedRef<SWidget> CreateButton = FindByType(Tab, "SButton");
+		for (const std::string& Template : CommandLine.Templates)
+		{
+			if (!StandIn::SelectListRow(TemplateList, StandIn::FromUtf8(Template)))
+			{
+				std::string Listed;
+				for (const FText& Row : StandIn::Paint(TemplateList).ListRows)
+				{
+					Listed += (Listed.empty() ? "" : ", ") + StandIn::ToUtf8(Row.ToString());
+				}
+				throw FCommandError{"the wizard lists no template named " + Template + " (it lists: " + Listed + "); no mod was created."};
+			}
+		}
+		StandIn::CommitText(NameBox, StandIn::FromUtf8(CommandLine.Name));
+		if (!StandIn::Paint(CreateButton).bIsEnabled)
+		{
+			const std::string Reason = StandIn::ToUtf8(StandIn::Paint(NameBox).ErrorText.ToString());
+			throw FCommandError{"the wizard refuses the name \"" + CommandLine.Name + "\": " + (Reason.empty() ? "its create button stays disabled" : Reason) + "; no mod was created."};
+		}
+		StandIn::ClickButton(CreateButton);
+	}
+
+	void RunDistribute(const FEditorCommandLine& CommandLine)
+	{
+		const size_t FirstWindow = StandIn::JournalRecords<StandIn::FWindowRecord>().size();
+		StandIn::ClickMenuEntry(StandIn::OpenLevelEditorMenu(TEXT("FileProject")), TEXT("Distribute"));
+		const std::vector<const StandIn::FWindowRecord*> Windows = StandIn::JournalRecords<StandIn::FWindowRecord>();
+		check(Windows.size() > FirstWindow);
+		const TSharedRef<SWidget> Dialog = Windows.back()->Content;
+		const TSharedRef<SWidget> EntriesBox = FrameCell(Dialog, 1);
+		for (const FEditorCommandLine::FPluginChoice& Plugin : CommandLine.Plugins)
+		{
+			AddEntry(Dialog, EntriesBox, Plugin);
+		}
+		if (CommandLine.bCalverly5)
+		{
+			StandIn::ClickCheckBox(FindByType(FrameCell(Dialog, 9), "SCheckBox"));
+		}
+		StandIn::ClickButton(FindButton(Dialog, TEXT("Distribute")));
+	}
+}
+
+int RunCommand(const FEditorCommandLine& CommandLine)
+{
+	try
+	{
+		if (CommandLine.Command == "menus")
+		{
+			RunMenus();
+		}
+		else if (CommandLine.Command == "cook")
+		{
+			RunCook(CommandLine);
+		}
+		else if (CommandLine.Command == "create")
+		{
+			RunCreate(CommandLine);
+		}
+		else
+		{
+			RunDistribute(CommandLine);
+		}
+	}
+	catch (const FCommandError& Error)
+	{
+		std::cout.flush();
+		std::cerr << "ugc-editor: " << Error.Message << std::endl;
+		return 2;
+	}
+	return 0;
+}
