@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "PakingDialogDriver.h"
 #include "StandIn/Records/TabRecord.h"
 #include "StandIn/Records/WindowRecord.h"
 #include "StandIn/UserInput.h"
@@ -38,40 +39,6 @@ namespace
 		return Found.ToSharedRef();
 	}
 
-	TSharedRef<SWidget> FindButton(const TSharedRef<SWidget>& Root, const TCHAR* Caption)
-	{
-		TSharedPtr<SWidget> Found = FindWidget(Root, [Caption](const TSharedRef<SWidget>& Widget) {
-			return StandIn::WidgetType(Widget) == "SButton" && StandIn::Paint(Widget).Text.ToString().Equals(Caption, ESearchCase::CaseSensitive);
-		});
-		check(Found.IsValid());
-		return Found.ToSharedRef();
-	}
-
-	// The grid cell of the dialog's frame at a row of its first column.
-	TSharedRef<SWidget> FrameCell(const TSharedRef<SWidget>& Dialog, int32 Row)
-	{
-		const TSharedRef<SWidget> Grid = FindByType(Dialog, "SGridPanel");
-		for (const StandIn::FChildSlot& Cell : StandIn::ChildSlots(Grid))
-		{
-			if (Cell.Column == 0 && Cell.Row == Row)
-			{
-				return Cell.Widget;
-			}
-		}
-		check(false);
-		return Grid;
-	}
-
-	std::string OfferedNames(const TSharedRef<SWidget>& ComboBox)
-	{
-		std::string Names;
-		for (const TSharedRef<SWidget>& Row : StandIn::OpenComboBox(ComboBox))
-		{
-			Names += (Names.empty() ? "" : ", ") + StandIn::ToUtf8(StandIn::ShownText(Row).ToString());
-		}
-		return Names.empty() ? "none" : Names;
-	}
-
 	// The command needs something the editor does not show; nothing more is done.
 	struct FCommandError
 	{
@@ -79,30 +46,22 @@ namespace
 	};
 
 	// Adds one entry as a person would and fills it in; throws when the dialog will not take the plugin.
-	void AddEntry(const TSharedRef<SWidget>& Dialog, const TSharedRef<SWidget>& EntriesBox, const FEditorCommandLine::FPluginChoice& Plugin)
+	void AddEntry(FPakingDialogDriver& Dialog, const FEditorCommandLine::FPluginChoice& Plugin)
 	{
-		const size_t FirstNewSlot = StandIn::ChildSlots(EntriesBox).size();
-		StandIn::ClickButton(FindButton(Dialog, TEXT("Add Plugin")));
-		const std::vector<StandIn::FChildSlot> Slots = StandIn::ChildSlots(EntriesBox);
-		if (Slots.size() < FirstNewSlot + 2)
+		const size_t EntriesBefore = Dialog.EntryCount();
+		if (!Dialog.AddEntry(Plugin.Name, Plugin.bOriginal, Plugin.RequiredDLCs ? &*Plugin.RequiredDLCs : nullptr))
 		{
-			throw FCommandError{"\"Add Plugin\" added no entry for --plugin " + Plugin.Name + "; nothing was distributed."};
-		}
-		const TSharedRef<SWidget> SelectionRow = Slots[FirstNewSlot].Widget;
-		const TSharedRef<SWidget> DLCBlock = Slots[FirstNewSlot + 1].Widget;
-
-		const TSharedRef<SWidget> ComboBox = FindByType(SelectionRow, "SComboBox");
-		if (!StandIn::ChooseComboOption(ComboBox, StandIn::FromUtf8(Plugin.Name)))
-		{
-			throw FCommandError{"the dialog offers no cooked plugin named " + Plugin.Name + " (it offers: " + OfferedNames(ComboBox) + "); nothing was distributed."};
-		}
-		if (Plugin.bOriginal)
-		{
-			StandIn::ClickCheckBox(FindByType(SelectionRow, "SCheckBox"));
-		}
-		if (Plugin.RequiredDLCs)
-		{
-			StandIn::CommitText(FindByType(DLCBlock, "SEditableTextBox"), StandIn::FromUtf8(*Plugin.RequiredDLCs));
+			if (Dialog.EntryCount() == EntriesBefore)
+			{
+				throw FCommandError{"\"Add Plugin\" added no entry for --plugin " + Plugin.Name + "; nothing was distributed."};
+			}
+			const std::vector<std::string> Offered = FPakingDialogDriver::OptionTexts(Dialog.Combo((int32)EntriesBefore));
+			std::string OfferedList;
+			for (const std::string& Name : Offered)
+			{
+				OfferedList += (OfferedList.empty() ? "" : ", ") + Name;
+			}
+			throw FCommandError{"the dialog offers no cooked plugin named " + Plugin.Name + " (it offers: " + (OfferedList.empty() ? "none" : OfferedList) + "); nothing was distributed."};
 		}
 	}
 }
@@ -230,7 +189,8 @@ namespace
 		if (!StandIn::Paint(CreateButton).bIsEnabled)
 		{
 			const std::string Reason = StandIn::ToUtf8(StandIn::Paint(NameBox).ErrorText.ToString());
-			throw FCommandError{"the wizard refuses the name \"" + CommandLine.Name + "\": " + (Reason.empty() ? "its create button stays disabled" : Reason) + "; no mod was created."};
+			// The wizard's own reason is a sentence of its own.
+			throw FCommandError{"the wizard refuses the name \"" + CommandLine.Name + "\" (" + (Reason.empty() ? "its create button stays disabled" : Reason) + "); no mod was created."};
 		}
 		StandIn::ClickButton(CreateButton);
 	}
@@ -241,17 +201,16 @@ namespace
 		StandIn::ClickMenuEntry(StandIn::OpenLevelEditorMenu(TEXT("FileProject")), TEXT("Distribute"));
 		const std::vector<const StandIn::FWindowRecord*> Windows = StandIn::JournalRecords<StandIn::FWindowRecord>();
 		check(Windows.size() > FirstWindow);
-		const TSharedRef<SWidget> Dialog = Windows.back()->Content;
-		const TSharedRef<SWidget> EntriesBox = FrameCell(Dialog, 1);
+		FPakingDialogDriver Dialog(Windows.back()->Content);
 		for (const FEditorCommandLine::FPluginChoice& Plugin : CommandLine.Plugins)
 		{
-			AddEntry(Dialog, EntriesBox, Plugin);
+			AddEntry(Dialog, Plugin);
 		}
 		if (CommandLine.bCalverly5)
 		{
-			StandIn::ClickCheckBox(FindByType(FrameCell(Dialog, 9), "SCheckBox"));
+			StandIn::ClickCheckBox(Dialog.EditionCheckBox());
 		}
-		StandIn::ClickButton(FindButton(Dialog, TEXT("Distribute")));
+		StandIn::ClickButton(Dialog.DistributeButton());
 	}
 }
 

@@ -1,6 +1,5 @@
 #include "PakingDialogTest.h"
 #include "SPakingDialog.h"
-#include <stdexcept>
 
 void PrintTo(const FHandedPlugin& Plugin, std::ostream* Stream)
 {
@@ -51,35 +50,6 @@ void FPakingDialogTest::BuildDialogWithoutPipeline(const std::vector<std::string
 	Dialog = SNew(SPakingDialog).CookedPlugins(Names);
 }
 
-TSharedRef<SWidget> FPakingDialogTest::GridCell(int32 Column, int32 Row) const
-{
-	const TSharedRef<SWidget> Grid = Child(Child(Child(Dialog.ToSharedRef(), 0), 0), 0);
-	for (const StandIn::FChildSlot& Slot : StandIn::ChildSlots(Grid))
-	{
-		if (Slot.Column == Column && Slot.Row == Row)
-		{
-			return Slot.Widget;
-		}
-	}
-	throw std::out_of_range("no grid slot at column " + std::to_string(Column) + ", row " + std::to_string(Row));
-}
-
-bool FPakingDialogTest::AddEntry(const std::string& Plugin, bool bOriginal, const std::string& DLCs)
-{
-	StandIn::ClickButton(AddPluginButton());
-	const int32 Entry = (int32)EntryCount() - 1;
-	const bool bChosen = Plugin.empty() || StandIn::ChooseComboOption(Combo(Entry), StandIn::FromUtf8(Plugin));
-	if (bOriginal)
-	{
-		StandIn::ClickCheckBox(OriginalCheckBox(Entry));
-	}
-	if (!DLCs.empty())
-	{
-		StandIn::CommitText(DLCTextBox(Entry), StandIn::FromUtf8(DLCs));
-	}
-	return bChosen;
-}
-
 std::optional<FHandedRun> FPakingDialogTest::DistributeAndSeeWhatThePipelineGot()
 {
 	// The pipeline's closing message box comes after its clean-up and before it empties its list.
@@ -102,16 +72,6 @@ std::optional<FHandedRun> FPakingDialogTest::DistributeAndSeeWhatThePipelineGot(
 	return Run;
 }
 
-std::vector<std::string> FPakingDialogTest::OptionTexts(const TSharedRef<SWidget>& ComboBox)
-{
-	std::vector<std::string> Texts;
-	for (const TSharedRef<SWidget>& Row : StandIn::OpenComboBox(ComboBox))
-	{
-		Texts.push_back(Shown(Row));
-	}
-	return Texts;
-}
-
 std::vector<EAppMsgType::Type> FPakingDialogTest::MessageBoxTypes()
 {
 	std::vector<EAppMsgType::Type> Types;
@@ -120,9 +80,4 @@ std::vector<EAppMsgType::Type> FPakingDialogTest::MessageBoxTypes()
 		Types.push_back(Box->Type);
 	}
 	return Types;
-}
-
-TSharedRef<SWidget> FPakingDialogTest::Child(const TSharedRef<SWidget>& Widget, int32 Index)
-{
-	return StandIn::ChildSlots(Widget).at((size_t)Index).Widget;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PakingDialogDriver.h"
 #include "SandboxTest.h"
 #include "UGCPaking.h"
 #include <optional>
@@ -41,31 +42,29 @@ protected:
 	// A dialog built directly, without a pipeline object.
 	void BuildDialogWithoutPipeline(const std::vector<std::string>& CookedPlugins);
 
-	TSharedRef<SWidget> GridCell(int32 Column, int32 Row) const;
-	TSharedRef<SWidget> AddPluginButton() const { return GridCell(0, 0); }
-	TSharedRef<SWidget> EntriesBox() const { return GridCell(0, 1); }
-	TSharedRef<SWidget> EditionCheckBox() const { return Child(GridCell(0, 9), 1); }
-	TSharedRef<SWidget> DistributeButton() const { return GridCell(0, 10); }
-	TSharedRef<SWidget> ResetButton() const { return GridCell(1, 10); }
-
-	// An entry's widgets; entry N owns slots 2N and 2N+1 of the entries box.
-	TSharedRef<SWidget> Combo(int32 Entry) const { return Child(Child(EntriesBox(), 2 * Entry), 0); }
-	TSharedRef<SWidget> ComboFace(int32 Entry) const { return Child(Child(Combo(Entry), 0), 0); }
-	TSharedRef<SWidget> OriginalCheckBox(int32 Entry) const { return Child(Child(Child(EntriesBox(), 2 * Entry), 1), 1); }
-	TSharedRef<SWidget> DLCTextBox(int32 Entry) const { return Child(Child(EntriesBox(), 2 * Entry + 1), 1); }
-	size_t EntryCount() const { return StandIn::ChildSlots(EntriesBox()).size() / 2; }
+	// The widgets, reached as the headless editor reaches them.
+	FPakingDialogDriver Driver() const { return FPakingDialogDriver(Dialog.ToSharedRef()); }
+	TSharedRef<SWidget> GridCell(int32 Column, int32 Row) const { return Driver().GridCell(Column, Row); }
+	TSharedRef<SWidget> AddPluginButton() const { return Driver().AddPluginButton(); }
+	TSharedRef<SWidget> EntriesBox() const { return Driver().EntriesBox(); }
+	TSharedRef<SWidget> EditionCheckBox() const { return Driver().EditionCheckBox(); }
+	TSharedRef<SWidget> DistributeButton() const { return Driver().DistributeButton(); }
+	TSharedRef<SWidget> ResetButton() const { return Driver().ResetButton(); }
+	TSharedRef<SWidget> Combo(int32 Entry) const { return Driver().Combo(Entry); }
+	TSharedRef<SWidget> ComboFace(int32 Entry) const { return Driver().ComboFace(Entry); }
+	TSharedRef<SWidget> OriginalCheckBox(int32 Entry) const { return Driver().OriginalCheckBox(Entry); }
+	TSharedRef<SWidget> DLCTextBox(int32 Entry) const { return Driver().DLCTextBox(Entry); }
+	size_t EntryCount() const { return Driver().EntryCount(); }
 
 	// Clicks "Add Plugin", then picks the plugin (none when empty), ticks "Original Plugin" and commits the
 	// DLC text as asked; false when the plugin was not among the options.
-	bool AddEntry(const std::string& Plugin, bool bOriginal = false, const std::string& DLCs = std::string());
+	bool AddEntry(const std::string& Plugin, bool bOriginal = false, const std::string& DLCs = std::string()) { return Driver().AddEntry(Plugin, bOriginal, DLCs.empty() ? nullptr : &DLCs); }
 
 	// Clicks "Distribute" and gives the plugin list and edition flag the pipeline held when its run ended
 	// (it empties the list right after), or nothing when no run ended.
 	std::optional<FHandedRun> DistributeAndSeeWhatThePipelineGot();
-	// The option texts the combo box lists when it opens.
-	static std::vector<std::string> OptionTexts(const TSharedRef<SWidget>& ComboBox);
-
-	static TSharedRef<SWidget> Child(const TSharedRef<SWidget>& Widget, int32 Index);
+	static std::vector<std::string> OptionTexts(const TSharedRef<SWidget>& ComboBox) { return FPakingDialogDriver::OptionTexts(ComboBox); }
+	static TSharedRef<SWidget> Child(const TSharedRef<SWidget>& Widget, int32 Index) { return FPakingDialogDriver::Child(Widget, Index); }
 	static std::string Utf8(const FText& Text) { return StandIn::ToUtf8(Text.ToString()); }
 	static std::string Shown(const TSharedRef<SWidget>& Widget) { return Utf8(StandIn::ShownText(Widget)); }
 	static std::vector<EAppMsgType::Type> MessageBoxTypes();
