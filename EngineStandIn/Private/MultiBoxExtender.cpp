@@ -45,13 +45,23 @@ namespace
 	}
 }
 
+namespace StandInExtensions
+{
+	// Where and with which command list an extension applies; the caller adds the builder of its kind.
+	TSharedRef<FExtensionBase> MakeExtension(FExtensionBase::EType Type, FName ExtensionHook, EExtensionHook::Position HookPosition, const TSharedPtr<FUICommandList>& CommandList)
+	{
+		const TSharedRef<FExtensionBase> Extension = MakeShareable(new FExtensionBase());
+		Extension->Type = Type;
+		Extension->Hook = ExtensionHook;
+		Extension->HookPosition = HookPosition;
+		Extension->CommandList = CommandList;
+		return Extension;
+	}
+}
+
 TSharedRef<const FExtensionBase> FExtender::AddMenuExtension(FName ExtensionHook, EExtensionHook::Position HookPosition, const TSharedPtr<FUICommandList>& CommandList, const FMenuExtensionDelegate& MenuExtensionDelegate)
 {
-	const TSharedRef<FExtensionBase> Extension = MakeShareable(new FExtensionBase());
-	Extension->Type = FExtensionBase::EType::Menu;
-	Extension->Hook = ExtensionHook;
-	Extension->HookPosition = HookPosition;
-	Extension->CommandList = CommandList;
+	const TSharedRef<FExtensionBase> Extension = StandInExtensions::MakeExtension(FExtensionBase::EType::Menu, ExtensionHook, HookPosition, CommandList);
 	Extension->MenuExtensionDelegate = MenuExtensionDelegate;
 	Extensions.Add(Extension);
 	return Extension;
@@ -59,11 +69,7 @@ TSharedRef<const FExtensionBase> FExtender::AddMenuExtension(FName ExtensionHook
 
 TSharedRef<const FExtensionBase> FExtender::AddToolBarExtension(FName ExtensionHook, EExtensionHook::Position HookPosition, const TSharedPtr<FUICommandList>& CommandList, const FToolBarExtensionDelegate& ToolBarExtensionDelegate)
 {
-	const TSharedRef<FExtensionBase> Extension = MakeShareable(new FExtensionBase());
-	Extension->Type = FExtensionBase::EType::ToolBar;
-	Extension->Hook = ExtensionHook;
-	Extension->HookPosition = HookPosition;
-	Extension->CommandList = CommandList;
+	const TSharedRef<FExtensionBase> Extension = StandInExtensions::MakeExtension(FExtensionBase::EType::ToolBar, ExtensionHook, HookPosition, CommandList);
 	Extension->ToolBarExtensionDelegate = ToolBarExtensionDelegate;
 	Extensions.Add(Extension);
 	return Extension;
