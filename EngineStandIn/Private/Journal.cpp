@@ -6,6 +6,7 @@
 #include "StandIn/Records/NotificationRecord.h"
 #include "StandIn/Records/TabRecord.h"
 #include "StandIn/Records/WindowRecord.h"
+#include "StandIn/ShownText.h"
 #include "StandIn/World.h"
 #include <cstdio>
 #include <cwchar>
@@ -16,6 +17,7 @@ namespace
 	{
 		std::vector<std::shared_ptr<const StandIn::FJournalRecord>> Records;
 		std::function<void(const StandIn::FJournalRecord&)> Listener;
+		std::function<void()> WaitListener;
 	};
 
 	// Never destroyed: a long session leaves tens of thousands of records, and freeing them one by one as
@@ -92,6 +94,19 @@ namespace StandIn
 		}
 	}
 
+	void SetWaitListener(std::function<void()> Listener)
+	{
+		State().WaitListener = std::move(Listener);
+	}
+
+	void AnnounceWait()
+	{
+		if (State().WaitListener)
+		{
+			State().WaitListener();
+		}
+	}
+
 	std::string FLogRecord::Describe() const
 	{
 		static const char* const Names[] = {"NoLogging", "Fatal", "Error", "Warning", "Display", "Log", "Verbose", "VeryVerbose"};
@@ -108,14 +123,29 @@ namespace StandIn
 		return Line;
 	}
 
+	std::string FLogRecord::ShownLine() const
+	{
+		return ShownValue(Describe());
+	}
+
 	std::string FMessageBoxRecord::Describe() const
 	{
 		return "Message: " + ToUtf8(Message.ToString());
 	}
 
+	std::string FMessageBoxRecord::ShownLine() const
+	{
+		return ShownValue(Describe());
+	}
+
 	std::string FWindowRecord::Describe() const
 	{
 		return "Window: " + ToUtf8(Title.ToString()) + " " + std::to_string((int)ClientSize.X) + "x" + std::to_string((int)ClientSize.Y);
+	}
+
+	std::string FWindowRecord::ShownLine() const
+	{
+		return ShownValue(Describe());
 	}
 
 	std::string FFileAttributesRecord::Describe() const
@@ -139,9 +169,19 @@ namespace StandIn
 		}
 	}
 
+	std::string FTabRecord::ShownLine() const
+	{
+		return Kind == EKind::Spawned ? ShownValue(Describe()) : std::string();
+	}
+
 	std::string FNotificationRecord::Describe() const
 	{
 		return "Notification: " + ToUtf8(Text.ToString());
+	}
+
+	std::string FNotificationRecord::ShownLine() const
+	{
+		return ShownValue(Describe());
 	}
 
 	std::string FBuildToolRecord::Describe() const

@@ -151,6 +151,7 @@ bool FPlatformProcess::ExecProcess(const TCHAR* URL, const TCHAR* Params, int32*
 	// warnings that say why: the editor did ask for it, and a reader looking for a step that did nothing
 	// should find the attempt.
 	StandIn::AppendToJournal(std::make_shared<StandIn::FChildProcessRecord>(CommandLine));
+	StandIn::AnnounceWait();
 
 	const std::string Line = StandIn::ToUtf8(CommandLine);
 	std::string Program;

@@ -1,5 +1,6 @@
 #include "IUATHelperModule.h"
 #include "StandIn/Records/UatTaskRecord.h"
+#include "StandIn/ShownText.h"
 #include "StandIn/World.h"
 #include "Styling/SlateBrush.h"
 
@@ -31,5 +32,11 @@ namespace StandIn
 	std::string FUatTaskRecord::Describe() const
 	{
 		return "Automation task: " + ToUtf8(TaskName.ToString()) + " (" + ToUtf8(PlatformDisplayName.ToString()) + "): " + ToUtf8(CommandLine);
+	}
+
+	std::string FUatTaskRecord::ShownLine() const
+	{
+		const std::string Icon = IconResourceName == NAME_None ? "none" : ToUtf8(IconResourceName.ToString());
+		return "Task: " + ShownField(ToUtf8(TaskName.ToString())) + " | " + ShownField(ToUtf8(TaskShortName.ToString())) + " | " + ShownField(ToUtf8(PlatformDisplayName.ToString())) + " | " + ShownField(Icon) + " | " + ShownField(ToUtf8(CommandLine));
 	}
 }

@@ -14,7 +14,6 @@ namespace StandIn
 
 		// "SetFileAttributesW: <path> 0x<attributes>"
 		std::string Describe() const override;
-		bool IsShownInEditor() const override { return false; }
 
 		FString Path;
 		uint32 Attributes;

@@ -15,6 +15,7 @@ namespace StandIn
 
 		// "Message: <text>"
 		std::string Describe() const override;
+		std::string ShownLine() const override;
 
 		EAppMsgType::Type Type;
 		FText Message;

@@ -16,7 +16,6 @@ namespace StandIn
 
 		// "Process: <command line>"
 		std::string Describe() const override;
-		bool IsShownInEditor() const override { return false; }
 
 		FString CommandLine;
 	};
@@ -30,7 +29,6 @@ namespace StandIn
 
 		// "system: <command>"
 		std::string Describe() const override;
-		bool IsShownInEditor() const override { return false; }
 
 		std::string Command;
 	};
