@@ -65,11 +65,22 @@ const char* UsageText()
 		   "  Task: NAME | SHORT NAME | PLATFORM | ICON BRUSH | COMMAND LINE\n"
 		   "                             an automation task; the command line exactly as handed over,\n"
 		   "                             trailing blanks included\n"
+		   "Lines are written out as they happen: before the editor waits for a child process, a prompt\n"
+		   "or a task, and otherwise within a tenth of a second.\n"
+		   "No value can start a line of its own or pass for a field separator: inside a line, a control\n"
+		   "character is shown as its Unicode control picture (a line feed as \u240A, a carriage return as\n"
+		   "\u240D, a tab as \u2409), U+0080 to U+009F, U+2028 and U+2029 as <U+XXXX>, and a | inside a\n"
+		   "field of a Menu: or Task: line as \u00A6.\n"
 		   "\n"
-		   "Exit status: 0 when the session ran, whatever the tools did; 2 for a usage error, or when\n"
-		   "the command needs something the editor does not show (a plugin the dialog or the \"Cook Mod\"\n"
-		   "drop-down does not offer, a template the wizard does not list, a name the wizard refuses):\n"
-		   "then one message on standard error and nothing is done.\n";
+		   "Exit status: 0 when the session ran, whatever the tools did; 2, with one message on standard\n"
+		   "error and nothing done, for a usage error or what the editor could not have been asked:\n"
+		   "two names, a template named twice, an argument that is not valid UTF-8 or holds a control\n"
+		   "character, a launch folder or project path holding \" < > | ? or *, a project file that is\n"
+		   "missing or not JSON, and for create a Templates/ folder or Templates/BaseTemplate that is\n"
+		   "missing or a template folder that cannot be read; and 2 when the command needs something the\n"
+		   "editor does not show (a plugin the dialog or the \"Cook Mod\" drop-down does not offer, a\n"
+		   "template the wizard does not list, a name the wizard refuses). Doubled slashes in the launch\n"
+		   "folder are collapsed, as the engine collapses them.\n";
 }
 
 namespace

@@ -123,7 +123,7 @@ int main(int argc, char** argv)
 	}
 	catch (const FUsageError& Error)
 	{
-		std::cerr << "ugc-editor: " << Error.Message << "\nTry 'ugc-editor --help'.\n";
+		std::cerr << "ugc-editor: " << Error.Message << " (see ugc-editor --help)\n";
 		return 2;
 	}
 

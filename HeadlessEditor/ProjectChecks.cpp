@@ -26,36 +26,51 @@ namespace
 		}
 	}
 
-	// The wizard copies Templates/BaseTemplate and the chosen templates' folders; a folder it cannot read
-	// fails the creation with no reason given, so every one is checked here.
-	void RefuseUnreadableTemplates()
+	bool IsReadableFolder(IPlatformFile& PlatformFile, const TCHAR* Folder)
+	{
+		return PlatformFile.IterateDirectory(Folder, [](const TCHAR*, bool) {
+			return true;
+		});
+	}
+
+	// The first folder at or below Folder that cannot be listed; empty when all can.
+	FString FirstUnreadableFolder(IPlatformFile& PlatformFile, const FString& Folder)
+	{
+		if (!IsReadableFolder(PlatformFile, *Folder))
+		{
+			return Folder;
+		}
+		FString Unreadable;
+		PlatformFile.IterateDirectoryRecursively(*Folder, [&PlatformFile, &Unreadable](const TCHAR* Path, bool bIsDirectory) {
+			if (bIsDirectory && !IsReadableFolder(PlatformFile, Path))
+			{
+				Unreadable = Path;
+			}
+			return Unreadable.IsEmpty();
+		});
+		return Unreadable;
+	}
+
+	// The wizard copies Templates/BaseTemplate and the chosen templates' folders, and fails with no reason
+	// given on a folder it cannot read; so all of them are checked before it runs.
+	void RefuseUnusableTemplates()
 	{
 		IPlatformFile& PlatformFile = FPlatformFileManager::Get().GetPlatformFile();
 		const FString Templates = FPaths::ConvertRelativePathToFull(FPaths::Combine(FPaths::ProjectDir(), TEXT("Templates")));
 		const FString BaseTemplate = FPaths::Combine(Templates, TEXT("BaseTemplate"));
-		for (const FString& Folder : {Templates, BaseTemplate})
+		const std::string Remedy = "; copy the repository's Templates/ beside the project file";
+		if (!PlatformFile.DirectoryExists(*Templates))
 		{
-			if (!PlatformFile.DirectoryExists(*Folder))
-			{
-				throw FUsageError{"the project has no mod templates folder " + Quoted(StandIn::ToUtf8(Folder + TEXT("/"))) + "; copy the repository's Templates/ beside the project file"};
-			}
+			throw FUsageError{"the project has no mod templates: " + Quoted(StandIn::ToUtf8(Templates + TEXT("/"))) + " is not there" + Remedy};
 		}
-		const auto Readable = [](const TCHAR*, bool) {
-			return true;
-		};
-		if (!PlatformFile.IterateDirectoryRecursively(*Templates, Readable))
+		const FString Unreadable = FirstUnreadableFolder(PlatformFile, Templates);
+		if (!Unreadable.IsEmpty())
 		{
-			FString Unreadable = Templates;
-			PlatformFile.IterateDirectoryRecursively(*Templates, [&PlatformFile, &Unreadable](const TCHAR* Path, bool bIsDirectory) {
-				if (bIsDirectory && !PlatformFile.IterateDirectory(Path, [](const TCHAR*, bool) {
-						return true;
-					}))
-				{
-					Unreadable = Path;
-				}
-				return true;
-			});
 			throw FUsageError{"the mod template folder " + Quoted(StandIn::ToUtf8(Unreadable + TEXT("/"))) + " cannot be read"};
+		}
+		if (!PlatformFile.DirectoryExists(*BaseTemplate))
+		{
+			throw FUsageError{"the mod templates have no base template: " + Quoted(StandIn::ToUtf8(BaseTemplate + TEXT("/"))) + " is not there" + Remedy};
 		}
 	}
 }
@@ -65,6 +80,6 @@ void RefuseUnusableProject(const FEditorCommandLine& CommandLine)
 	RefuseUnreadableProjectFile();
 	if (CommandLine.Command == "create" && !CommandLine.bNoPluginBrowser)
 	{
-		RefuseUnreadableTemplates();
+		RefuseUnusableTemplates();
 	}
 }
