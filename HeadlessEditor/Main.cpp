@@ -127,6 +127,8 @@ int main(int argc, char** argv)
 		return 2;
 	}
 
+	const fs::path DriveC = fs::path(World.DriveRoot) / "C";
+	const bool bHadDriveC = fs::exists(DriveC);
 	StandIn::ResetWorld(World);
 	try
 	{
@@ -134,6 +136,11 @@ int main(int argc, char** argv)
 	}
 	catch (const FUsageError& Error)
 	{
+		// A refused session leaves the folder as it found it, without the drive the world always has.
+		if (!bHadDriveC)
+		{
+			fs::remove(DriveC);
+		}
 		std::cerr << "ugc-editor: " << Error.Message << "\n";
 		return 2;
 	}
@@ -156,5 +163,8 @@ int main(int argc, char** argv)
 	const int ExitCode = RunCommand(CommandLine, Output);
 	// As at the editor's exit: shut down, then destroyed.
 	FModuleManager::Get().UnloadModule(TEXT("UGCEditor"), true);
+	// What happens after the session is not shown: the listeners go before the output they write to.
+	StandIn::SetJournalListener(nullptr);
+	StandIn::SetWaitListener(nullptr);
 	return ExitCode;
 }

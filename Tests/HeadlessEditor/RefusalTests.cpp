@@ -62,6 +62,12 @@ TEST_F(FHeadlessEditorTest, AProjectFileThatIsMissingOrNotJsonIsRefusedByItsName
 	EXPECT_EQ(Missing.Out, "");
 	EXPECT_EQ(SandboxContent(), Before);
 
+	fs::create_directory(Root / "empty");
+	const FRun NoDrive = Run({"--root", (Root / "empty").string(), "menus"});
+
+	EXPECT_EQ(NoDrive.ExitCode, 2);
+	EXPECT_TRUE(fs::is_empty(Root / "empty"));
+
 	std::ofstream(Drive("Work/Moravane/Moravane.uproject")) << "{ \"FileVersion\": 3, ";
 	const FRun NotJson = Run({"--root", Sandbox().string(), "cook", "CalverlyBranchLine"});
 
