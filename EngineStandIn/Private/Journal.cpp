@@ -94,6 +94,11 @@ namespace StandIn
 		}
 	}
 
+	std::string FJournalRecord::ShownLine() const
+	{
+		return ShownValue(Describe());
+	}
+
 	void SetWaitListener(std::function<void()> Listener)
 	{
 		State().WaitListener = std::move(Listener);
@@ -123,29 +128,14 @@ namespace StandIn
 		return Line;
 	}
 
-	std::string FLogRecord::ShownLine() const
-	{
-		return ShownValue(Describe());
-	}
-
 	std::string FMessageBoxRecord::Describe() const
 	{
 		return "Message: " + ToUtf8(Message.ToString());
 	}
 
-	std::string FMessageBoxRecord::ShownLine() const
-	{
-		return ShownValue(Describe());
-	}
-
 	std::string FWindowRecord::Describe() const
 	{
 		return "Window: " + ToUtf8(Title.ToString()) + " " + std::to_string((int)ClientSize.X) + "x" + std::to_string((int)ClientSize.Y);
-	}
-
-	std::string FWindowRecord::ShownLine() const
-	{
-		return ShownValue(Describe());
 	}
 
 	std::string FFileAttributesRecord::Describe() const
@@ -177,11 +167,6 @@ namespace StandIn
 	std::string FNotificationRecord::Describe() const
 	{
 		return "Notification: " + ToUtf8(Text.ToString());
-	}
-
-	std::string FNotificationRecord::ShownLine() const
-	{
-		return ShownValue(Describe());
 	}
 
 	std::string FBuildToolRecord::Describe() const

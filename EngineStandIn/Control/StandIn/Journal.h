@@ -17,8 +17,8 @@ namespace StandIn
 		// One line that says everything that happened, for a reader of the journal.
 		virtual std::string Describe() const = 0;
 		// The line a person at the editor sees for it, its values put in with ShownText.h; empty for what
-		// the editor does not show (child processes, Win32 calls).
-		virtual std::string ShownLine() const { return std::string(); }
+		// the editor does not show (child processes, Win32 calls). By default the description, shown.
+		virtual std::string ShownLine() const;
 	};
 
 	const std::vector<std::shared_ptr<const FJournalRecord>>& Journal();

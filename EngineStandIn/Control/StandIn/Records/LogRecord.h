@@ -14,7 +14,6 @@ namespace StandIn
 
 		// As the Output Log shows it: "LogTemp: Warning: text", and "LogTemp: text" at Log verbosity.
 		std::string Describe() const override;
-		std::string ShownLine() const override;
 
 		FString Category;
 		ELogVerbosity::Type Verbosity;

@@ -15,7 +15,6 @@ namespace StandIn
 
 		// "Message: <text>"
 		std::string Describe() const override;
-		std::string ShownLine() const override;
 
 		EAppMsgType::Type Type;
 		FText Message;

@@ -21,7 +21,6 @@ namespace StandIn
 
 		// "Notification: <text>"
 		std::string Describe() const override;
-		std::string ShownLine() const override;
 
 		FText Text;
 		ECompletionState State;

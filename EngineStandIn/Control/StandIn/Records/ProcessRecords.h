@@ -16,6 +16,8 @@ namespace StandIn
 
 		// "Process: <command line>"
 		std::string Describe() const override;
+		// Not shown in the editor.
+		std::string ShownLine() const override { return std::string(); }
 
 		FString CommandLine;
 	};
@@ -29,6 +31,8 @@ namespace StandIn
 
 		// "system: <command>"
 		std::string Describe() const override;
+		// Not shown in the editor.
+		std::string ShownLine() const override { return std::string(); }
 
 		std::string Command;
 	};

@@ -15,7 +15,6 @@ namespace StandIn
 
 		// "Window: <title> <width>x<height>"
 		std::string Describe() const override;
-		std::string ShownLine() const override;
 
 		TSharedRef<SWindow> Window;
 		FText Title;
