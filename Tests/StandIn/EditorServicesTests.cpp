@@ -169,23 +169,32 @@ TEST_F(FSandboxTest, ClickedMenuEntryRunsTheActionOfTheListItWasAddedWith)
 	EXPECT_EQ(Runs, 1);
 }
 
+namespace
+{
+	// A tool bar with one combo button "Combo" of this action, whose drop-down counts its openings.
+	TSharedRef<SWidget> MakeToolBarWithCombo(const FUIAction& Action, int& Openings)
+	{
+		FToolBarBuilder ToolBar(MakeShared<FUICommandList>(), FMultiBoxCustomization::None);
+		ToolBar.AddComboButton(Action, FOnGetContent::CreateLambda([&Openings]() {
+								   ++Openings;
+								   return FMenuBuilder(true, nullptr).MakeWidget();
+							   }),
+							   FText::FromString(TEXT("Combo")));
+		return ToolBar.MakeWidget();
+	}
+}
+
 TEST_F(FSandboxTest, ToolBarComboOpensItsDropDownWhereverClickedAndNeverRunsItsAction)
 {
 	int Runs = 0;
 	int Openings = 0;
-	FToolBarBuilder ToolBar(MakeShared<FUICommandList>(), FMultiBoxCustomization::None);
-	ToolBar.AddComboButton(FUIAction(FExecuteAction::CreateLambda([&Runs]() {
-							   ++Runs;
-						   })),
-		FOnGetContent::CreateLambda([&Openings]() {
-			++Openings;
-			return FMenuBuilder(true, nullptr).MakeWidget();
-		}),
-		FText::FromString(TEXT("Combo")));
-	const TSharedRef<SWidget> Widget = ToolBar.MakeWidget();
+	const TSharedRef<SWidget> ToolBar = MakeToolBarWithCombo(FUIAction(FExecuteAction::CreateLambda([&Runs]() {
+																 ++Runs;
+															 })),
+															 Openings);
 
-	EXPECT_TRUE(StandIn::ClickMenuEntry(Widget, TEXT("Combo")));
-	EXPECT_TRUE(StandIn::OpenComboDropDown(Widget, TEXT("Combo")).IsValid());
+	EXPECT_TRUE(StandIn::ClickMenuEntry(ToolBar, TEXT("Combo")));
+	EXPECT_TRUE(StandIn::OpenComboDropDown(ToolBar, TEXT("Combo")).IsValid());
 	EXPECT_EQ(Openings, 2);
 	EXPECT_EQ(Runs, 0);
 }
@@ -193,19 +202,13 @@ TEST_F(FSandboxTest, ToolBarComboOpensItsDropDownWhereverClickedAndNeverRunsItsA
 TEST_F(FSandboxTest, ToolBarComboThatCannotExecuteIsDisabledAndOpensNothing)
 {
 	int Openings = 0;
-	FToolBarBuilder ToolBar(MakeShared<FUICommandList>(), FMultiBoxCustomization::None);
-	ToolBar.AddComboButton(FUIAction(FExecuteAction(), FCanExecuteAction::CreateLambda([]() {
-							   return false;
-						   })),
-		FOnGetContent::CreateLambda([&Openings]() {
-			++Openings;
-			return FMenuBuilder(true, nullptr).MakeWidget();
-		}),
-		FText::FromString(TEXT("Combo")));
-	const TSharedRef<SWidget> Widget = ToolBar.MakeWidget();
+	const TSharedRef<SWidget> ToolBar = MakeToolBarWithCombo(FUIAction(FExecuteAction(), FCanExecuteAction::CreateLambda([]() {
+																		   return false;
+																	   })),
+															 Openings);
 
-	EXPECT_TRUE(StandIn::ClickMenuEntry(Widget, TEXT("Combo")));
-	EXPECT_FALSE(StandIn::OpenComboDropDown(Widget, TEXT("Combo")).IsValid());
+	EXPECT_TRUE(StandIn::ClickMenuEntry(ToolBar, TEXT("Combo")));
+	EXPECT_FALSE(StandIn::OpenComboDropDown(ToolBar, TEXT("Combo")).IsValid());
 	EXPECT_EQ(Openings, 0);
 }
 
