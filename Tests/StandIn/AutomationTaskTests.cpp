@@ -2,6 +2,7 @@
 #include "SandboxTest.h"
 #include "StandIn/BackgroundTasks.h"
 #include "StandIn/Records/NotificationRecord.h"
+#include <chrono>
 
 // IUATHelperModule::CreateUatTask against 4.26's UAT helper: RunUAT.bat through cmd.exe as a monitored
 // process, its notification, its output in the log and its result.
@@ -26,8 +27,9 @@ namespace
 		});
 	}
 
-	// What a person sees of a task, in order: messages, notifications and the helper's log lines.
-	std::vector<std::string> ShownLines()
+	// What a task leaves in the journal, in order: message boxes, notifications, child processes and the
+	// helper's log lines.
+	std::vector<std::string> TaskLines()
 	{
 		std::vector<std::string> Lines;
 		for (const std::shared_ptr<const StandIn::FJournalRecord>& Record : StandIn::Journal())
@@ -58,7 +60,7 @@ TEST_F(FAutomationTaskTest, WithoutRunUatTheTaskShowsTheMissingFileAndStopsThere
 	StartTask(TEXT("BuildDLC"), Result);
 	StandIn::WaitForBackgroundTasks();
 
-	EXPECT_EQ(ShownLines(), std::vector<std::string>{"Message: A required file could not be found:\nC:/Work/Engine/Build/BatchFiles/RunUAT.bat"});
+	EXPECT_EQ(TaskLines(), std::vector<std::string>{"Message: A required file could not be found:\nC:/Work/Engine/Build/BatchFiles/RunUAT.bat"});
 	EXPECT_EQ(Result.Calls, 0);
 }
 
@@ -71,16 +73,16 @@ TEST_F(FAutomationTaskTest, RunUatGetsTheCommandLineThroughCmdAndEachLineItPrint
 	EXPECT_EQ(Result.Calls, 0);
 	StandIn::WaitForBackgroundTasks();
 
-	EXPECT_EQ(ShownLines(), (std::vector<std::string>{
-								"Notification: Cooking MyRoute, long for Windows...",
-								"Process: \"cmd.exe\" /c \"\"C:/Work/Engine/Build/BatchFiles/RunUAT.bat\" BuildDLC -Project=\"C:/My Work/P.uproject\" -ue4exe=\"C:/Work/\"Moravane/x.exe -dlcName=\"N\",\"N\" \"",
-								"UATHelper: Cooking MyRoute (Windows): BuildDLC",
-								"UATHelper: Cooking MyRoute (Windows): -Project=C:/My Work/P.uproject",
-								"UATHelper: Cooking MyRoute (Windows): -ue4exe=C:/Work/Moravane/x.exe",
-								"UATHelper: Cooking MyRoute (Windows): -dlcName=N,N",
-								"UATHelper: Cooking MyRoute (Windows): crlf",
-								"Notification: Cooking MyRoute complete!",
-							}));
+	EXPECT_EQ(TaskLines(), (std::vector<std::string>{
+							   "Notification: Cooking MyRoute, long for Windows...",
+							   "Process: \"cmd.exe\" /c \"\"C:/Work/Engine/Build/BatchFiles/RunUAT.bat\" BuildDLC -Project=\"C:/My Work/P.uproject\" -ue4exe=\"C:/Work/\"Moravane/x.exe -dlcName=\"N\",\"N\" \"",
+							   "UATHelper: Cooking MyRoute (Windows): BuildDLC",
+							   "UATHelper: Cooking MyRoute (Windows): -Project=C:/My Work/P.uproject",
+							   "UATHelper: Cooking MyRoute (Windows): -ue4exe=C:/Work/Moravane/x.exe",
+							   "UATHelper: Cooking MyRoute (Windows): -dlcName=N,N",
+							   "UATHelper: Cooking MyRoute (Windows): crlf",
+							   "Notification: Cooking MyRoute complete!",
+						   }));
 	EXPECT_EQ(Result.Calls, 1);
 	EXPECT_EQ(Result.Result, "Completed");
 	EXPECT_GE(Result.Seconds, 0.0);
@@ -92,16 +94,17 @@ TEST_F(FAutomationTaskTest, LinesArriveWhileTheToolRunsAndTheEndIsShownOnlyAfter
 	FTaskResult Result;
 	StartTask(TEXT("BuildDLC"), Result);
 
-	while (LogLines().empty())
+	const std::chrono::steady_clock::time_point GiveUp = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+	while (LogLines().empty() && std::chrono::steady_clock::now() < GiveUp)
 	{
 		StandIn::TickBackgroundTasks();
 	}
-	const std::vector<std::string> WhileRunning = ShownLines();
+	const std::vector<std::string> WhileRunning = TaskLines();
 	WriteFile("C:/go", "");
 	StandIn::WaitForBackgroundTasks();
 
 	EXPECT_EQ(WhileRunning.back(), "UATHelper: Cooking MyRoute (Windows): started");
-	EXPECT_EQ(ShownLines().back(), "Notification: Cooking MyRoute complete!");
+	EXPECT_EQ(TaskLines().back(), "Notification: Cooking MyRoute complete!");
 	EXPECT_FALSE(StandIn::HasBackgroundTasks());
 }
 
@@ -113,7 +116,22 @@ TEST_F(FAutomationTaskTest, ANonZeroExitCodeFailsTheTask)
 	StartTask(TEXT("BuildDLC"), Result);
 	StandIn::WaitForBackgroundTasks();
 
-	EXPECT_EQ(ShownLines().back(), "Notification: Cooking MyRoute failed!");
+	EXPECT_EQ(TaskLines().back(), "Notification: Cooking MyRoute failed!");
 	EXPECT_EQ(StandIn::JournalRecords<StandIn::FNotificationRecord>().back()->State, StandIn::FNotificationRecord::ECompletionState::Fail);
 	EXPECT_EQ(Result.Result, "Failed");
+}
+
+TEST_F(FAutomationTaskTest, TheMissingGameBinaryCodeIsRaisedToAMessageBoxAfterTheFailure)
+{
+	WriteRunUat("exit 103\n");
+
+	FTaskResult Result;
+	StartTask(TEXT("BuildDLC"), Result);
+	StandIn::WaitForBackgroundTasks();
+
+	const std::vector<std::string> Lines = TaskLines();
+	EXPECT_EQ(std::vector<std::string>(Lines.end() - 2, Lines.end()), (std::vector<std::string>{
+																		  "Notification: Cooking MyRoute failed!",
+																		  "Message: Missing UE4Game binary.\nYou may have to build the UE4 project with your IDE. Alternatively, build using UnrealBuildTool with the commandline:\nUE4Game <Platform> <Configuration>",
+																	  }));
 }
