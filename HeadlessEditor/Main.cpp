@@ -6,6 +6,7 @@
 #include "Modules/ModuleManager.h"
 #include "ProjectChecks.h"
 #include "SessionOutput.h"
+#include "StandIn/BackgroundTasks.h"
 #include "StandIn/Journal.h"
 #include "StandIn/World.h"
 #include <filesystem>
@@ -158,9 +159,14 @@ int main(int argc, char** argv)
 	});
 	StandIn::DiscoverPlugins();
 
-	// As the engine loads a module: by name, through its exported entry point, then its start-up.
+	// As the engine starts its modules: the project's (UGCEditor, as the game project lists it) before the
+	// plugins'; each by name, through its exported entry point, then its start-up. A project file that does
+	// not list the module still gets it, since the session is about it.
+	StandIn::LoadStartupModules();
 	FModuleManager::Get().LoadModuleChecked(TEXT("UGCEditor"));
 	const int ExitCode = RunCommand(CommandLine, Output);
+	// A task started in the session ends in it.
+	StandIn::WaitForBackgroundTasks();
 	// As at the editor's exit: shut down, then destroyed.
 	FModuleManager::Get().UnloadModule(TEXT("UGCEditor"), true);
 	// What happens after the session is not shown: the listeners go before the output they write to.
