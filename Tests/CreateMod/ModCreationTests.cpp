@@ -170,6 +170,29 @@ TEST_F(FModCreationTest, NamesWithOtherCharactersAreRefusedNamingEachOnce)
 	EXPECT_FALSE(Exists("C:/Work/Moravane/Plugins"));
 }
 
+TEST_F(FModCreationTest, LettersOfEveryScriptAreLegalAndMakeTheMod)
+{
+	OpenWizard();
+	for (const std::string Name : {"Železnice", "鉄道", "Café"})
+	{
+		TypeName(Name);
+		EXPECT_EQ(NameError(), "") << Name;
+		EXPECT_TRUE(CanCreate()) << Name;
+	}
+	ClickCreate();
+
+	EXPECT_TRUE(Exists("C:/Work/Moravane/Plugins/Café/Café.uplugin"));
+}
+
+TEST_F(FModCreationTest, PunctuationBeyondSevenBitsIsIllegalToo)
+{
+	OpenWizard();
+	TypeName("Café–Route");
+
+	EXPECT_EQ(NameError(), "Plugin name cannot contain illegal characters like: \"–\"");
+	EXPECT_FALSE(CanCreate());
+}
+
 TEST_F(FModCreationTest, NamesMustBeginWithALetter)
 {
 	OpenWizard();
