@@ -4,6 +4,7 @@
 #include <climits>
 #include <cstdlib>
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -132,10 +133,38 @@ namespace
 		return Target;
 	}
 
-	// Each name is looked up as it stands first, which is how it is found nearly always, and only when that
-	// fails among the folder's entries ignoring case. Links met on the way are followed here, not by the
-	// host, so that none can lead outside the drive root; the last name may be a link and stays one (so
-	// that a link can be removed rather than its target), once its target is known to be inside.
+	// Nearly every path names an existing entry in the case it was made with. The host then finds it in
+	// one call and says where it ended, links followed; if that is inside the drive root and is not itself
+	// a link, it is the answer. Anything else (a missing name, a name in another case, a last name that is
+	// a link, a link that leads out) is left to Resolve.
+	bool FindAsItStands(const std::string& DriveRoot, const FDrivePath& Path, std::string& OutHost)
+	{
+		std::string Host = DriveRoot + "/" + Path.Drive;
+		for (const std::string& Name : Path.Names)
+		{
+			Host += "/" + Name;
+		}
+		const int Handle = open(Host.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC);
+		if (Handle < 0)
+		{
+			return false;
+		}
+		struct stat Info;
+		const bool bIsLink = fstat(Handle, &Info) != 0 || S_ISLNK(Info.st_mode);
+		const std::string Reached = ReadLink("/proc/self/fd/" + std::to_string(Handle));
+		close(Handle);
+		if (bIsLink || Reached.compare(0, DriveRoot.size() + 1, DriveRoot + "/") != 0)
+		{
+			return false;
+		}
+		OutHost = Reached;
+		return true;
+	}
+
+	// Each name is looked up as it stands first and, when that fails, among the folder's entries ignoring
+	// case. Links met on the way are followed here, not by the host, so that none can lead outside the
+	// drive root; the last name may be a link and stays one (so that a link can be removed rather than its
+	// target), once its target is known to be inside.
 	bool Resolve(const std::string& DriveRoot, FDrivePath Path, int LinksLeft, std::string& OutHost)
 	{
 		std::string Host = DriveRoot + "/" + Path.Drive;
@@ -217,7 +246,7 @@ namespace WindowsDrivePath
 		Path.Drive = (char)std::toupper((unsigned char)WindowsPath[0]);
 		AppendLexically(Path.Names, WindowsPath.substr(2));
 		std::string Host;
-		return Resolve(DriveRoot, Path, MaxLinksFollowed, Host) ? Host : std::string();
+		return FindAsItStands(DriveRoot, Path, Host) || Resolve(DriveRoot, Path, MaxLinksFollowed, Host) ? Host : std::string();
 	}
 
 	std::string ToHostFromEnvironment(const std::string& Path)
