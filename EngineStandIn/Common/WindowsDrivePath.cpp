@@ -245,8 +245,13 @@ namespace WindowsDrivePath
 		FDrivePath Path;
 		Path.Drive = (char)std::toupper((unsigned char)WindowsPath[0]);
 		AppendLexically(Path.Names, WindowsPath.substr(2));
+		std::string Root = DriveRoot;
+		while (Root.size() > 1 && Root.back() == '/')
+		{
+			Root.pop_back();
+		}
 		std::string Host;
-		return FindAsItStands(DriveRoot, Path, Host) || Resolve(DriveRoot, Path, MaxLinksFollowed, Host) ? Host : std::string();
+		return FindAsItStands(Root, Path, Host) || Resolve(Root, Path, MaxLinksFollowed, Host) ? Host : std::string();
 	}
 
 	std::string ToHostFromEnvironment(const std::string& Path)

@@ -222,16 +222,16 @@ TEST_F(FModCreationTest, ANameADiscoveredPluginHasIsRefusedWhateverItsCase)
 	EXPECT_FALSE(Exists("C:/Work/Moravane/Plugins/oldroute"));
 }
 
-TEST_F(FModCreationTest, ANameWithADescriptorAlreadyAtThePathIsRefused)
+TEST_F(FModCreationTest, ANameWithADescriptorAlreadyAtThePathInAnyCaseIsRefused)
 {
-	WriteFile("C:/Work/Moravane/Plugins/Undiscovered/Undiscovered.uplugin", "{\"FileVersion\": 3}");
+	WriteFile("C:/Work/Moravane/Plugins/undiscovered/undiscovered.uplugin", "{\"FileVersion\": 3}");
 	OpenWizard();
 	TypeName("Undiscovered");
 
 	EXPECT_EQ(NameError(), "A plugin already exists at this path!");
 	EXPECT_FALSE(CanCreate());
 	ClickCreate();
-	EXPECT_EQ(FilesBelow("C:/Work/Moravane/Plugins/Undiscovered"), std::vector<std::string>({"Undiscovered.uplugin"}));
+	EXPECT_EQ(FilesBelow("C:/Work/Moravane/Plugins"), std::vector<std::string>({"undiscovered/undiscovered.uplugin"}));
 }
 
 TEST_F(FModCreationTest, AFailedCreationIsExplainedAndLeavesNoHalfMadeFolder)
