@@ -168,6 +168,12 @@ namespace
 	bool Resolve(const std::string& DriveRoot, FDrivePath Path, int LinksLeft, std::string& OutHost)
 	{
 		std::string Host = DriveRoot + "/" + Path.Drive;
+		struct stat DriveInfo;
+		if (lstat(Host.c_str(), &DriveInfo) == 0 && S_ISLNK(DriveInfo.st_mode))
+		{
+			// A drive is a folder of the root itself, never a way out of it.
+			return false;
+		}
 		for (size_t Index = 0; Index < Path.Names.size(); ++Index)
 		{
 			std::string Candidate = Host + "/" + Path.Names[Index];
