@@ -1,5 +1,6 @@
 #include "WindowsDrivePath.h"
 #include "WideCharacterClasses.h"
+#include <algorithm>
 #include <cctype>
 #include <climits>
 #include <cstdlib>
