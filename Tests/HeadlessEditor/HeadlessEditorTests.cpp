@@ -1,5 +1,6 @@
 // ugc-editor as a user runs it: its command line, what it prints and what it leaves on disk.
 #include "HeadlessEditorTest.h"
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
@@ -224,11 +225,14 @@ TEST_F(FHeadlessEditorTest, CreateFindsTheWorldWhateverCaseTheLaunchFolderAndPro
 
 TEST_F(FHeadlessEditorTest, AProjectAboveTheDriveRootIsOnTheDriveRootAndNothingIsWrittenOutsideTheRoot)
 {
-	CopyProjectData();
+	fs::create_directories(Drive("elsewhere/P"));
+	std::ofstream(Drive("elsewhere/P/P.uproject")) << "{ \"FileVersion\": 3 }";
+	fs::copy(REPOSITORY_DIR "/Templates", Drive("elsewhere/P/Templates"), fs::copy_options::recursive);
 
-	Run({"--root", Sandbox().string(), "--project", "C:/../../elsewhere/P/P.uproject", "create", "Northline"});
+	const FRun Run = this->Run({"--root", Sandbox().string(), "--project", "C:/../../elsewhere/P/P.uproject", "create", "Northline"});
 
-	EXPECT_TRUE(fs::is_directory(Drive("elsewhere/P/Plugins")));
+	EXPECT_EQ(Run.ExitCode, 0) << Run.Err;
+	EXPECT_TRUE(fs::is_directory(Drive("elsewhere/P/Plugins/Northline")));
 	EXPECT_FALSE(fs::exists(Root / "elsewhere"));
 }
 
