@@ -1,4 +1,7 @@
 #include "CommandLine.h"
+#include "StandIn/ShownText.h"
+#include <algorithm>
+#include <cstdio>
 
 const char* UsageText()
 {
@@ -63,15 +66,116 @@ const char* UsageText()
 		   "  Task: NAME | SHORT NAME | PLATFORM | ICON BRUSH | COMMAND LINE\n"
 		   "                             an automation task; the command line exactly as handed over,\n"
 		   "                             trailing blanks included\n"
+		   "Lines are written out as they happen: before the editor waits for a child process, a prompt\n"
+		   "or a task, and otherwise within a tenth of a second.\n"
+		   "No value can start a line of its own or pass for a field separator: inside a line, a control\n"
+		   "character is shown as its Unicode control picture (a line feed as \u240A, a carriage return as\n"
+		   "\u240D, a tab as \u2409), U+0080 to U+009F, U+2028 and U+2029 as <U+XXXX>, and a | inside a\n"
+		   "field of a Menu: or Task: line as \u00A6.\n"
 		   "\n"
-		   "Exit status: 0 when the session ran, whatever the tools did; 2 for a usage error, or when\n"
-		   "the command needs something the editor does not show (a plugin the dialog or the \"Cook Mod\"\n"
-		   "drop-down does not offer, a template the wizard does not list, a name the wizard refuses):\n"
-		   "then one message on standard error and nothing is done.\n";
+		   "Exit status: 0 when the session ran, whatever the tools did; 2, with one message on standard\n"
+		   "error and nothing done, for a usage error or what the editor could not have been asked:\n"
+		   "two names, a template named twice, an argument that is not valid UTF-8 or holds a control\n"
+		   "character, a launch folder or project path holding \" < > | ? or *, a project file that is\n"
+		   "missing or not JSON, and for create a Templates/ folder or Templates/BaseTemplate that is\n"
+		   "missing or a template folder that cannot be read; and 2 when the command needs something the\n"
+		   "editor does not show (a plugin the dialog or the \"Cook Mod\" drop-down does not offer, a\n"
+		   "template the wizard does not list, a name the wizard refuses). Doubled slashes in the launch\n"
+		   "folder are collapsed, as the engine collapses them.\n";
 }
 
 namespace
 {
+	// The length of the well-formed UTF-8 sequence at Index (no overlong form, no surrogate, nothing
+	// beyond U+10FFFF), or 0.
+	size_t Utf8SequenceLength(const std::string& Text, size_t Index)
+	{
+		const unsigned char Lead = (unsigned char)Text[Index];
+		if (Lead < 0x80)
+		{
+			return 1;
+		}
+		const size_t Length = Lead >= 0xC2 && Lead <= 0xDF ? 2 : Lead >= 0xE0 && Lead <= 0xEF ? 3
+															 : Lead >= 0xF0 && Lead <= 0xF4	  ? 4
+																							  : 0;
+		if (Length == 0 || Index + Length > Text.size())
+		{
+			return 0;
+		}
+		const unsigned char Second = (unsigned char)Text[Index + 1];
+		const unsigned char Low = Lead == 0xE0 ? 0xA0 : Lead == 0xF0 ? 0x90
+																	 : 0x80;
+		const unsigned char High = Lead == 0xED ? 0x9F : Lead == 0xF4 ? 0x8F
+																	  : 0xBF;
+		if (Second < Low || Second > High)
+		{
+			return 0;
+		}
+		for (size_t Next = Index + 2; Next < Index + Length; ++Next)
+		{
+			if (((unsigned char)Text[Next] & 0xC0) != 0x80)
+			{
+				return 0;
+			}
+		}
+		return Length;
+	}
+
+	bool IsValidUtf8(const std::string& Text)
+	{
+		for (size_t Index = 0; Index < Text.size();)
+		{
+			const size_t Length = Utf8SequenceLength(Text, Index);
+			if (Length == 0)
+			{
+				return false;
+			}
+			Index += Length;
+		}
+		return true;
+	}
+
+	// A control character: U+0000 to U+001F, U+007F, or U+0080 to U+009F (in UTF-8, 0xC2 then 0x80 to 0x9F).
+	bool HasControlCharacter(const std::string& Text)
+	{
+		for (size_t Index = 0; Index < Text.size(); ++Index)
+		{
+			const unsigned char Byte = (unsigned char)Text[Index];
+			if (Byte < 0x20 || Byte == 0x7F || (Byte == 0xC2 && Index + 1 < Text.size() && (unsigned char)Text[Index + 1] <= 0x9F))
+			{
+				return true;
+			}
+		}
+		return false;
+	}
+
+	// Nothing the editor could have been given: a command line is text, and no name, package or path a
+	// person types into the editor holds a control character.
+	void RefuseUnreadableArguments(const std::vector<std::string>& Arguments)
+	{
+		for (const std::string& Argument : Arguments)
+		{
+			if (!IsValidUtf8(Argument))
+			{
+				throw FUsageError{"the argument " + Quoted(Argument) + " is not valid UTF-8"};
+			}
+			if (HasControlCharacter(Argument))
+			{
+				throw FUsageError{"the argument " + Quoted(Argument) + " holds a control character"};
+			}
+		}
+	}
+
+	// The characters Windows forbids in a path, besides the control characters refused for every argument.
+	void RefuseForbiddenPathCharacters(const std::string& Option, const std::string& Path)
+	{
+		const size_t Forbidden = Path.find_first_of("\"<>|?*");
+		if (Forbidden != std::string::npos)
+		{
+			throw FUsageError{Option + " " + Quoted(Path) + " holds '" + Path[Forbidden] + "', which Windows does not allow in a path"};
+		}
+	}
+
 	std::string TakeValue(const std::vector<std::string>& Arguments, size_t& Index)
 	{
 		const std::string& Option = Arguments[Index];
@@ -140,9 +244,9 @@ namespace
 		{
 			throw FUsageError{"unknown option for " + Result.Command + ": " + Argument};
 		}
-		if (!Result.Name.empty())
+		if (Result.Name)
 		{
-			throw FUsageError{Result.Command + " takes one name, not also " + Argument};
+			throw FUsageError{Result.Command + " takes one name, not both " + Quoted(*Result.Name) + " and " + Quoted(Argument)};
 		}
 		Result.Name = Argument;
 	}
@@ -173,7 +277,13 @@ namespace
 	{
 		if (Arguments[Index] == "--template")
 		{
-			Result.Templates.push_back(TakeValue(Arguments, Index));
+			const std::string Template = TakeValue(Arguments, Index);
+			// A second click on a template in the wizard's list takes the selection back.
+			if (std::find(Result.Templates.begin(), Result.Templates.end(), Template) != Result.Templates.end())
+			{
+				throw FUsageError{"the template " + Quoted(Template) + " is named twice"};
+			}
+			Result.Templates.push_back(Template);
 		}
 		else
 		{
@@ -182,8 +292,29 @@ namespace
 	}
 }
 
+std::string Quoted(const std::string& Value)
+{
+	std::string Readable;
+	for (size_t Index = 0; Index < Value.size();)
+	{
+		const size_t Length = Utf8SequenceLength(Value, Index);
+		if (Length == 0)
+		{
+			char Byte[8];
+			std::snprintf(Byte, sizeof(Byte), "\\x%02X", (unsigned)(unsigned char)Value[Index]);
+			Readable += Byte;
+			++Index;
+			continue;
+		}
+		Readable.append(Value, Index, Length);
+		Index += Length;
+	}
+	return "\"" + StandIn::ShownValue(Readable) + "\"";
+}
+
 FEditorCommandLine ParseCommandLine(const std::vector<std::string>& Arguments)
 {
+	RefuseUnreadableArguments(Arguments);
 	FEditorCommandLine Result;
 	for (size_t Index = 0; Index < Arguments.size(); ++Index)
 	{
@@ -234,9 +365,11 @@ FEditorCommandLine ParseCommandLine(const std::vector<std::string>& Arguments)
 	{
 		throw FUsageError{"no command given"};
 	}
-	if ((Result.Command == "cook" || Result.Command == "create") && Result.Name.empty())
+	if ((Result.Command == "cook" || Result.Command == "create") && !Result.Name)
 	{
 		throw FUsageError{Result.Command + " needs the plugin's NAME"};
 	}
+	RefuseForbiddenPathCharacters("--launch-dir", Result.LaunchDir);
+	RefuseForbiddenPathCharacters("--project", Result.ProjectFile);
 	return Result;
 }

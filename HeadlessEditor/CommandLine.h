@@ -32,7 +32,7 @@ struct FEditorCommandLine
 	std::vector<FPluginChoice> Plugins;
 
 	// cook and create: the plugin's name
-	std::string Name;
+	std::optional<std::string> Name;
 	// cook
 	std::vector<FDirtyPackage> DirtyPackages;
 	bool bSaveAll = false;
@@ -45,6 +45,10 @@ struct FUsageError
 {
 	std::string Message;
 };
+
+// A value as a usage message names it: in double quotes, so that a blank or an empty value shows, and
+// with what could break the message's line made visible.
+std::string Quoted(const std::string& Value);
 
 FEditorCommandLine ParseCommandLine(const std::vector<std::string>& Arguments);
 const char* UsageText();

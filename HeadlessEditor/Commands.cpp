@@ -1,5 +1,7 @@
 #include "Commands.h"
 #include "PakingDialogDriver.h"
+#include "SessionOutput.h"
+#include "StandIn/ShownText.h"
 #include "StandIn/Records/TabRecord.h"
 #include "StandIn/Records/WindowRecord.h"
 #include "StandIn/UserInput.h"
@@ -53,7 +55,7 @@ namespace
 		{
 			if (Dialog.EntryCount() == EntriesBefore)
 			{
-				throw FCommandError{"\"Add Plugin\" added no entry for --plugin " + Plugin.Name + "; nothing was distributed."};
+				throw FCommandError{"\"Add Plugin\" added no entry for --plugin " + Quoted(Plugin.Name) + "; nothing was distributed."};
 			}
 			const std::vector<std::string> Offered = FPakingDialogDriver::OptionTexts(Dialog.Combo((int32)EntriesBefore));
 			std::string OfferedList;
@@ -61,7 +63,7 @@ namespace
 			{
 				OfferedList += (OfferedList.empty() ? "" : ", ") + Name;
 			}
-			throw FCommandError{"the dialog offers no cooked plugin named " + Plugin.Name + " (it offers: " + (OfferedList.empty() ? "none" : OfferedList) + "); nothing was distributed."};
+			throw FCommandError{"the dialog offers no cooked plugin named " + Quoted(Plugin.Name) + " (it offers: " + (OfferedList.empty() ? "none" : OfferedList) + "); nothing was distributed."};
 		}
 	}
 }
@@ -88,16 +90,16 @@ namespace
 	}
 
 	// One line an entry, as a person reads the menu or tool bar at this place.
-	void ListMenu(const std::string& Place, const TSharedRef<SWidget>& Menu)
+	void ListMenu(FSessionOutput& Output, const std::string& Place, const TSharedRef<SWidget>& Menu)
 	{
 		static const char* const Kinds[] = {"heading", "separator", "entry", "sub-menu", "button", "combo"};
 		bool bAnyEntry = false;
 		for (const StandIn::FMenuEntry& Entry : StandIn::MenuEntries(Menu))
 		{
-			const std::string Label = StandIn::ToUtf8(Entry.Label.ToString());
+			const std::string Label = StandIn::ShownField(StandIn::ToUtf8(Entry.Label.ToString()));
 			if (Entry.Kind == StandIn::FMenuEntry::EKind::Heading)
 			{
-				std::cout << "Menu: " << Place << " | heading | " << Label << '\n';
+				Output.WriteLine("Menu: " + Place + " | heading | " + Label);
 				continue;
 			}
 			if (Entry.Kind == StandIn::FMenuEntry::EKind::Separator)
@@ -106,11 +108,11 @@ namespace
 			}
 			bAnyEntry = true;
 			const std::string Icon = Entry.IconStyleSetName == NAME_None && Entry.IconStyleName == NAME_None ? "none" : StandIn::ToUtf8(Entry.IconStyleSetName.ToString()) + "/" + StandIn::ToUtf8(Entry.IconStyleName.ToString());
-			std::cout << "Menu: " << Place << " | " << Kinds[(int)Entry.Kind] << " | " << Label << " | " << StandIn::ToUtf8(Entry.ToolTip.ToString()) << " | " << Icon << " | " << Brush(Entry) << '\n';
+			Output.WriteLine("Menu: " + Place + " | " + Kinds[(int)Entry.Kind] + " | " + Label + " | " + StandIn::ShownField(StandIn::ToUtf8(Entry.ToolTip.ToString())) + " | " + StandIn::ShownField(Icon) + " | " + StandIn::ShownField(Brush(Entry)));
 		}
 		if (!bAnyEntry)
 		{
-			std::cout << "Menu: " << Place << " | empty\n";
+			Output.WriteLine("Menu: " + Place + " | empty");
 		}
 	}
 
@@ -141,22 +143,22 @@ namespace
 		return DropDown.ToSharedRef();
 	}
 
-	void RunMenus()
+	void RunMenus(FSessionOutput& Output)
 	{
-		ListMenu("FileProject", StandIn::OpenLevelEditorMenu(TEXT("FileProject")));
-		ListMenu("Compile", StandIn::OpenLevelEditorToolBar(TEXT("Compile")));
-		ListMenu("Cook Mod sub-menu", OpenCookModSubMenu());
-		ListMenu("Cook Mod drop-down", OpenCookModDropDown());
-		ListMenu("Cook Mod sub-menu", OpenCookModSubMenu());
+		ListMenu(Output, "FileProject", StandIn::OpenLevelEditorMenu(TEXT("FileProject")));
+		ListMenu(Output, "Compile", StandIn::OpenLevelEditorToolBar(TEXT("Compile")));
+		ListMenu(Output, "Cook Mod sub-menu", OpenCookModSubMenu());
+		ListMenu(Output, "Cook Mod drop-down", OpenCookModDropDown());
+		ListMenu(Output, "Cook Mod sub-menu", OpenCookModSubMenu());
 	}
 
-	void RunCook(const FEditorCommandLine& CommandLine)
+	void RunCook(const FEditorCommandLine& CommandLine, FSessionOutput& Output)
 	{
 		const TSharedRef<SWidget> DropDown = OpenCookModDropDown();
-		ListMenu("Cook Mod drop-down", DropDown);
-		if (!StandIn::ClickMenuEntry(DropDown, StandIn::FromUtf8(CommandLine.Name)))
+		ListMenu(Output, "Cook Mod drop-down", DropDown);
+		if (!StandIn::ClickMenuEntry(DropDown, StandIn::FromUtf8(*CommandLine.Name)))
 		{
-			throw FCommandError{"the \"Cook Mod\" drop-down offers no plugin named " + CommandLine.Name + " (it offers: " + EntryLabels(DropDown) + "); nothing was cooked."};
+			throw FCommandError{"the \"Cook Mod\" drop-down offers no plugin named " + Quoted(*CommandLine.Name) + " (it offers: " + EntryLabels(DropDown) + "); nothing was cooked."};
 		}
 	}
 
@@ -182,15 +184,15 @@ namespace
 				{
 					Listed += (Listed.empty() ? "" : ", ") + StandIn::ToUtf8(Row.ToString());
 				}
-				throw FCommandError{"the wizard lists no template named " + Template + " (it lists: " + Listed + "); no mod was created."};
+				throw FCommandError{"the wizard lists no template named " + Quoted(Template) + " (it lists: " + Listed + "); no mod was created."};
 			}
 		}
-		StandIn::CommitText(NameBox, StandIn::FromUtf8(CommandLine.Name));
+		StandIn::CommitText(NameBox, StandIn::FromUtf8(*CommandLine.Name));
 		if (!StandIn::Paint(CreateButton).bIsEnabled)
 		{
 			const std::string Reason = StandIn::ToUtf8(StandIn::Paint(NameBox).ErrorText.ToString());
 			// The wizard's own reason is a sentence of its own.
-			throw FCommandError{"the wizard refuses the name \"" + CommandLine.Name + "\" (" + (Reason.empty() ? "its create button stays disabled" : Reason) + "); no mod was created."};
+			throw FCommandError{"the wizard refuses the name " + Quoted(*CommandLine.Name) + " (" + (Reason.empty() ? "its create button stays disabled" : Reason) + "); no mod was created."};
 		}
 		StandIn::ClickButton(CreateButton);
 	}
@@ -214,17 +216,17 @@ namespace
 	}
 }
 
-int RunCommand(const FEditorCommandLine& CommandLine)
+int RunCommand(const FEditorCommandLine& CommandLine, FSessionOutput& Output)
 {
 	try
 	{
 		if (CommandLine.Command == "menus")
 		{
-			RunMenus();
+			RunMenus(Output);
 		}
 		else if (CommandLine.Command == "cook")
 		{
-			RunCook(CommandLine);
+			RunCook(CommandLine, Output);
 		}
 		else if (CommandLine.Command == "create")
 		{
@@ -237,8 +239,9 @@ int RunCommand(const FEditorCommandLine& CommandLine)
 	}
 	catch (const FCommandError& Error)
 	{
-		std::cout.flush();
-		std::cerr << "ugc-editor: " << Error.Message << std::endl;
+		Output.Flush();
+		// Plugin and template names come from folders on disk: none may break the message's line.
+		std::cerr << "ugc-editor: " << StandIn::ShownValue(Error.Message) << std::endl;
 		return 2;
 	}
 	return 0;

@@ -2,5 +2,8 @@
 
 #include "CommandLine.h"
 
-// Runs the command through what a person sees of the started module; returns the exit status.
-int RunCommand(const FEditorCommandLine& CommandLine);
+class FSessionOutput;
+
+// Runs the command through what a person sees of the started module, printing what it lists to Output;
+// returns the exit status.
+int RunCommand(const FEditorCommandLine& CommandLine, FSessionOutput& Output);

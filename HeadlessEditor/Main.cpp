@@ -2,15 +2,12 @@
 // the UGCEditor module there and operates its user interface as a person would.
 #include "CommandLine.h"
 #include "Commands.h"
+#include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
+#include "ProjectChecks.h"
+#include "SessionOutput.h"
 #include "StandIn/BackgroundTasks.h"
-#include "StandIn/Records/LogRecord.h"
-#include "StandIn/Records/MessageBoxRecord.h"
-#include "StandIn/Records/NotificationRecord.h"
-#include "StandIn/Records/SavePromptRecord.h"
-#include "StandIn/Records/TabRecord.h"
-#include "StandIn/Records/UatTaskRecord.h"
-#include "StandIn/Records/WindowRecord.h"
+#include "StandIn/Journal.h"
 #include "StandIn/World.h"
 #include <filesystem>
 #include <iostream>
@@ -35,6 +32,18 @@ namespace
 			Path += '/';
 		}
 		return Path;
+	}
+
+	// Windows keeps no doubled separator in a current directory; the engine collapses them as below.
+	FString LaunchFolder(const std::string& Path)
+	{
+		FString Folder = StandIn::FromUtf8(AsFolder(Path));
+		if (Folder.Contains(TEXT("//"), ESearchCase::CaseSensitive) || Folder.Contains(TEXT("\\\\"), ESearchCase::CaseSensitive))
+		{
+			FPaths::NormalizeFilename(Folder);
+			FPaths::RemoveDuplicateSlashes(Folder);
+		}
+		return Folder;
 	}
 
 	// A distribution keeps every walked path, every response line and every log line alive at once, in
@@ -84,9 +93,9 @@ namespace
 		}
 		StandIn::FWorld World;
 		World.DriveRoot = fs::absolute(CommandLine.Root).lexically_normal().string();
-		World.LaunchDir = StandIn::FromUtf8(AsFolder(CommandLine.LaunchDir));
+		World.LaunchDir = LaunchFolder(CommandLine.LaunchDir);
 		// The editor is taken to be started from its install folder, as the module assumes.
-		World.BaseDir = StandIn::FromUtf8(AsFolder(CommandLine.LaunchDir)).Replace(TEXT("\\"), TEXT("/")) + TEXT("Engine/Binaries/Win64/");
+		World.BaseDir = World.LaunchDir.Replace(TEXT("\\"), TEXT("/")) + TEXT("Engine/Binaries/Win64/");
 		World.ProjectFilePath = StandIn::FromUtf8(CommandLine.ProjectFile);
 		World.bPluginBrowserLoaded = !CommandLine.bNoPluginBrowser;
 		for (const FEditorCommandLine::FDirtyPackage& Package : CommandLine.DirtyPackages)
@@ -95,38 +104,6 @@ namespace
 		}
 		World.SavePromptAnswer = CommandLine.bSaveAll ? StandIn::ESavePromptAnswer::SaveAll : StandIn::ESavePromptAnswer::DontSave;
 		return World;
-	}
-
-	// The line a person at the editor would see for this record; empty for what the editor does not show.
-	std::string ShownLine(const StandIn::FJournalRecord& Record)
-	{
-		if (dynamic_cast<const StandIn::FLogRecord*>(&Record) || dynamic_cast<const StandIn::FMessageBoxRecord*>(&Record) || dynamic_cast<const StandIn::FWindowRecord*>(&Record) || dynamic_cast<const StandIn::FNotificationRecord*>(&Record))
-		{
-			return Record.Describe();
-		}
-		if (const StandIn::FTabRecord* Tab = dynamic_cast<const StandIn::FTabRecord*>(&Record))
-		{
-			return Tab->Kind == StandIn::FTabRecord::EKind::Spawned ? Tab->Describe() : std::string();
-		}
-		if (const StandIn::FSavePromptRecord* Prompt = dynamic_cast<const StandIn::FSavePromptRecord*>(&Record))
-		{
-			if (!Prompt->bPromptShown)
-			{
-				return std::string();
-			}
-			std::string Line = "Save prompt: ";
-			for (size_t Index = 0; Index < Prompt->PackageNames.size(); ++Index)
-			{
-				Line += (Index == 0 ? "" : ", ") + StandIn::ToUtf8(Prompt->PackageNames[Index]);
-			}
-			return Line;
-		}
-		if (const StandIn::FUatTaskRecord* Task = dynamic_cast<const StandIn::FUatTaskRecord*>(&Record))
-		{
-			const std::string Icon = Task->IconResourceName == NAME_None ? "none" : StandIn::ToUtf8(Task->IconResourceName.ToString());
-			return "Task: " + StandIn::ToUtf8(Task->TaskName.ToString()) + " | " + StandIn::ToUtf8(Task->TaskShortName.ToString()) + " | " + StandIn::ToUtf8(Task->PlatformDisplayName.ToString()) + " | " + Icon + " | " + StandIn::ToUtf8(Task->CommandLine);
-		}
-		return std::string();
 	}
 }
 
@@ -147,18 +124,38 @@ int main(int argc, char** argv)
 	}
 	catch (const FUsageError& Error)
 	{
-		std::cerr << "ugc-editor: " << Error.Message << "\nTry 'ugc-editor --help'.\n";
+		std::cerr << "ugc-editor: " << Error.Message << " (see ugc-editor --help)\n";
 		return 2;
 	}
 
+	const fs::path DriveC = fs::path(World.DriveRoot) / "C";
+	const bool bHadDriveC = fs::exists(DriveC);
 	StandIn::ResetWorld(World);
-	StandIn::SetJournalListener([](const StandIn::FJournalRecord& Record) {
-		const std::string Line = ShownLine(Record);
+	try
+	{
+		RefuseUnusableProject(CommandLine);
+	}
+	catch (const FUsageError& Error)
+	{
+		// A refused session leaves the folder as it found it, without the drive the world always has.
+		if (!bHadDriveC)
+		{
+			fs::remove(DriveC);
+		}
+		std::cerr << "ugc-editor: " << Error.Message << "\n";
+		return 2;
+	}
+
+	FSessionOutput Output;
+	StandIn::SetJournalListener([&Output](const StandIn::FJournalRecord& Record) {
+		const std::string Line = Record.ShownLine();
 		if (!Line.empty())
 		{
-			// One flush at exit, not one a line: a run over many files logs tens of thousands of lines.
-			std::cout << Line << '\n';
+			Output.WriteLine(Line);
 		}
+	});
+	StandIn::SetWaitListener([&Output] {
+		Output.Flush();
 	});
 	StandIn::DiscoverPlugins();
 
@@ -167,10 +164,13 @@ int main(int argc, char** argv)
 	// not list the module still gets it, since the session is about it.
 	StandIn::LoadStartupModules();
 	FModuleManager::Get().LoadModuleChecked(TEXT("UGCEditor"));
-	const int ExitCode = RunCommand(CommandLine);
+	const int ExitCode = RunCommand(CommandLine, Output);
 	// A task started in the session ends in it.
 	StandIn::WaitForBackgroundTasks();
 	// As at the editor's exit: shut down, then destroyed.
 	FModuleManager::Get().UnloadModule(TEXT("UGCEditor"), true);
+	// What happens after the session is not shown: the listeners go before the output they write to.
+	StandIn::SetJournalListener(nullptr);
+	StandIn::SetWaitListener(nullptr);
 	return ExitCode;
 }

@@ -33,11 +33,13 @@ editor=$PWD/build/release/HeadlessEditor/ugc-editor
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# A sandbox with P cooked plugins holding N files in folders of 100, and tools that do nothing.
+# A sandbox with the project file, P cooked plugins holding N files in folders of 100, and tools that do
+# nothing.
 make_tree() {
 	local root=$1 count=$2
 	local launch=$root/C/Work
-	mkdir -p "$launch/Engine/Binaries/Win64" "$launch/PellowTools"
+	mkdir -p "$launch/Engine/Binaries/Win64" "$launch/PellowTools" "$launch/Moravane"
+	echo '{ "FileVersion": 3 }' > "$launch/Moravane/Moravane.uproject"
 	printf '#!/bin/sh\nexit 0\n' > "$launch/Engine/Binaries/Win64/UnrealPak.exe"
 	cp "$launch/Engine/Binaries/Win64/UnrealPak.exe" "$launch/PellowTools/AssetMerger.exe"
 	chmod +x "$launch/Engine/Binaries/Win64/UnrealPak.exe" "$launch/PellowTools/AssetMerger.exe"

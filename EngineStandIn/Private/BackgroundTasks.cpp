@@ -1,4 +1,5 @@
 #include "StandIn/BackgroundTasks.h"
+#include "StandIn/Journal.h"
 #include "StandInBackgroundTasks.h"
 #include <algorithm>
 #include <poll.h>
@@ -79,6 +80,7 @@ namespace StandIn
 				Outputs.push_back(pollfd{Process->OutputDescriptor(), POLLIN, 0});
 			}
 			bool bOutputClosed = false;
+			AnnounceWait();
 			if (!Outputs.empty() && State().GameThreadWork.empty() && poll(Outputs.data(), Outputs.size(), MaximumWaitMilliseconds) > 0)
 			{
 				for (const pollfd& Output : Outputs)

@@ -59,6 +59,7 @@ extern "C" int system(const char* Command)
 		return Comspec && access(InterpreterAtPath(Comspec).c_str(), F_OK) == 0 ? 1 : 0;
 	}
 	StandIn::AppendToJournal(std::make_shared<StandIn::FSystemCallRecord>(Command));
+	StandIn::AnnounceWait();
 	if (Comspec)
 	{
 		const int Result = SpawnAndWait(Comspec, InterpreterAtPath(Comspec), Command);

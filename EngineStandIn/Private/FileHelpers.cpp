@@ -1,5 +1,6 @@
 #include "FileHelpers.h"
 #include "StandIn/Records/SavePromptRecord.h"
+#include "StandIn/ShownText.h"
 #include "StandIn/World.h"
 #include "StandInPackages.h"
 #include <cstdio>
@@ -92,6 +93,11 @@ bool FEditorFileUtils::SaveDirtyPackages(const bool bPromptUserToSave, const boo
 		bReturnCode = Answer != StandIn::ESavePromptAnswer::Cancel;
 	}
 	StandIn::AppendToJournal(Record);
+	if (Record->bPromptShown)
+	{
+		// The prompt is modal: the editor waits for the person's answer.
+		StandIn::AnnounceWait();
+	}
 
 	if (bSaveAll)
 	{
@@ -117,5 +123,19 @@ namespace StandIn
 			return "Save prompt: " + Names + " -> " + AnswerName(Answer);
 		}
 		return "Save without prompt: " + (Names.empty() ? std::string("nothing to save") : Names);
+	}
+
+	std::string FSavePromptRecord::ShownLine() const
+	{
+		if (!bPromptShown)
+		{
+			return std::string();
+		}
+		std::string Line = "Save prompt: ";
+		for (size_t Index = 0; Index < PackageNames.size(); ++Index)
+		{
+			Line += (Index == 0 ? "" : ", ") + ShownValue(ToUtf8(PackageNames[Index]));
+		}
+		return Line;
 	}
 }

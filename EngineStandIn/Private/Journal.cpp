@@ -7,6 +7,7 @@
 #include "StandIn/Records/NotificationRecord.h"
 #include "StandIn/Records/TabRecord.h"
 #include "StandIn/Records/WindowRecord.h"
+#include "StandIn/ShownText.h"
 #include "StandIn/World.h"
 #include <cstdio>
 #include <cwchar>
@@ -17,6 +18,7 @@ namespace
 	{
 		std::vector<std::shared_ptr<const StandIn::FJournalRecord>> Records;
 		std::function<void(const StandIn::FJournalRecord&)> Listener;
+		std::function<void()> WaitListener;
 	};
 
 	// Never destroyed: a long session leaves tens of thousands of records, and freeing them one by one as
@@ -93,6 +95,24 @@ namespace StandIn
 		}
 	}
 
+	std::string FJournalRecord::ShownLine() const
+	{
+		return ShownValue(Describe());
+	}
+
+	void SetWaitListener(std::function<void()> Listener)
+	{
+		State().WaitListener = std::move(Listener);
+	}
+
+	void AnnounceWait()
+	{
+		if (State().WaitListener)
+		{
+			State().WaitListener();
+		}
+	}
+
 	std::string FLogRecord::Describe() const
 	{
 		static const char* const Names[] = {"NoLogging", "Fatal", "Error", "Warning", "Display", "Log", "Verbose", "VeryVerbose"};
@@ -143,6 +163,11 @@ namespace StandIn
 		default:
 			return "Tab closed: " + Tab;
 		}
+	}
+
+	std::string FTabRecord::ShownLine() const
+	{
+		return Kind == EKind::Spawned ? ShownValue(Describe()) : std::string();
 	}
 
 	std::string FNotificationRecord::Describe() const

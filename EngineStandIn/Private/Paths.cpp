@@ -86,6 +86,14 @@ void FPaths::NormalizeFilename(FString& InPath)
 	InPath.ReplaceInline(TEXT("\\"), TEXT("/"), ESearchCase::CaseSensitive);
 }
 
+void FPaths::RemoveDuplicateSlashes(FString& InPath)
+{
+	while (InPath.Contains(TEXT("//"), ESearchCase::CaseSensitive))
+	{
+		InPath.ReplaceInline(TEXT("//"), TEXT("/"), ESearchCase::CaseSensitive);
+	}
+}
+
 bool FPaths::CollapseRelativeDirectories(FString& InPath)
 {
 	const TCHAR ParentDir[] = TEXT("/..");

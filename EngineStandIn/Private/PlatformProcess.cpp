@@ -189,6 +189,8 @@ bool FPlatformProcess::ExecProcess(const TCHAR* URL, const TCHAR* Params, int32*
 	Handles.Output = OutStdOut ? OutPipe[1] : Null;
 	Handles.Error = OutStdErr ? ErrPipe[1] : Null;
 	int32 WindowsError = 0;
+	// The editor waits for the child from here on.
+	StandIn::AnnounceWait();
 	const pid_t Child = StandInProcesses::Start(CommandLine, URL, Params, Handles, OptionalWorkingDirectory, WindowsError);
 	close(Null);
 	if (bCapture)

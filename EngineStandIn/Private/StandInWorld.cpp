@@ -199,6 +199,8 @@ EAppReturnType::Type FMessageDialog::Open(EAppMsgType::Type MessageType, const F
 EAppReturnType::Type FMessageDialog::Open(EAppMsgType::Type MessageType, EAppReturnType::Type DefaultValue, const FText& Message, const FText* OptTitle)
 {
 	StandIn::AppendToJournal(std::make_shared<StandIn::FMessageBoxRecord>(MessageType, Message, OptTitle ? *OptTitle : FText()));
+	// A message box is modal: the editor waits for the person to close it.
+	StandIn::AnnounceWait();
 	return MessageType == EAppMsgType::Ok ? EAppReturnType::Ok : DefaultValue;
 }
 

@@ -3,6 +3,7 @@
 #include "Misc/Paths.h"
 #include "StandIn/Records/NotificationRecord.h"
 #include "StandIn/Records/UatTaskRecord.h"
+#include "StandIn/ShownText.h"
 #include "StandIn/World.h"
 #include "StandInBackgroundTasks.h"
 #include "Styling/SlateBrush.h"
@@ -119,6 +120,12 @@ namespace StandIn
 	std::string FUatTaskRecord::Describe() const
 	{
 		return "Automation task: " + ToUtf8(TaskName.ToString()) + " (" + ToUtf8(PlatformDisplayName.ToString()) + "): " + ToUtf8(CommandLine);
+	}
+
+	std::string FUatTaskRecord::ShownLine() const
+	{
+		const std::string Icon = IconResourceName == NAME_None ? "none" : ToUtf8(IconResourceName.ToString());
+		return "Task: " + ShownField(ToUtf8(TaskName.ToString())) + " | " + ShownField(ToUtf8(TaskShortName.ToString())) + " | " + ShownField(ToUtf8(PlatformDisplayName.ToString())) + " | " + ShownField(Icon) + " | " + ShownField(ToUtf8(CommandLine));
 	}
 }
 

@@ -1,80 +1,9 @@
 // ugc-editor as a user runs it: its command line, what it prints and what it leaves on disk.
-#include "SandboxTest.h"
-#include <filesystem>
+#include "HeadlessEditorTest.h"
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
-#include <string>
-#include <sys/wait.h>
-#include <vector>
 
 namespace fs = std::filesystem;
-
-namespace
-{
-	struct FRun
-	{
-		int ExitCode = -1;
-		std::string Out;
-		std::string Err;
-	};
-
-	std::string Quote(const std::string& Argument)
-	{
-		std::string Quoted = "'";
-		for (const char Char : Argument)
-		{
-			Quoted += Char == '\'' ? std::string("'\\''") : std::string(1, Char);
-		}
-		return Quoted + "'";
-	}
-
-	std::string ReadAll(const fs::path& Path)
-	{
-		std::ifstream Stream(Path, std::ios::binary);
-		std::ostringstream Bytes;
-		Bytes << Stream.rdbuf();
-		return Bytes.str();
-	}
-}
-
-class FHeadlessEditorTest : public ::testing::Test
-{
-protected:
-	void SetUp() override
-	{
-		std::string Template = (fs::temp_directory_path() / "ugc-editor-XXXXXX").string();
-		ASSERT_NE(mkdtemp(&Template[0]), nullptr);
-		Root = Template;
-		fs::copy(SAMPLE_SANDBOX_DIR, Root / "sandbox", fs::copy_options::recursive);
-	}
-	void TearDown() override { fs::remove_all(Root); }
-
-	// The project data the module reads: the command icons and the mod templates.
-	void CopyProjectData() const
-	{
-		fs::copy(REPOSITORY_DIR "/Resources", Drive("Work/Moravane/Resources"), fs::copy_options::recursive);
-		fs::copy(REPOSITORY_DIR "/Templates", Drive("Work/Moravane/Templates"), fs::copy_options::recursive);
-	}
-
-	FRun Run(const std::vector<std::string>& Arguments) const
-	{
-		std::string Command = Quote(UGC_EDITOR_PATH);
-		for (const std::string& Argument : Arguments)
-		{
-			Command += " " + Quote(Argument);
-		}
-		const fs::path Out = Root / "stdout.txt";
-		const fs::path Err = Root / "stderr.txt";
-		const int Status = HostShell((Command + " > " + Quote(Out.string()) + " 2> " + Quote(Err.string())).c_str());
-		return FRun{WIFEXITED(Status) ? WEXITSTATUS(Status) : -1, ReadAll(Out), ReadAll(Err)};
-	}
-
-	fs::path Sandbox() const { return Root / "sandbox"; }
-	fs::path Drive(const std::string& Below) const { return Sandbox() / "C" / Below; }
-
-	fs::path Root;
-};
 
 TEST_F(FHeadlessEditorTest, DistributesTheSampleThroughTheDialogAndPrintsTheSession)
 {
@@ -167,6 +96,8 @@ TEST_F(FHeadlessEditorTest, HelpDescribesTheCommandLine)
 	EXPECT_NE(Help.Out.find("cook NAME [--dirty PACKAGE]... [--dirty-map PACKAGE]... [--save all|none]"), std::string::npos) << Help.Out;
 	EXPECT_NE(Help.Out.find("create NAME [--template DISPLAY_NAME]..."), std::string::npos) << Help.Out;
 	EXPECT_NE(Help.Out.find("Menu: PLACE | KIND | LABEL | TOOLTIP | ICON | BRUSH"), std::string::npos) << Help.Out;
+	EXPECT_NE(Help.Out.find("a line feed as \u240A"), std::string::npos) << Help.Out;
+	EXPECT_NE(Help.Out.find("a | inside a\nfield of a Menu: or Task: line as \u00A6"), std::string::npos) << Help.Out;
 }
 
 TEST_F(FHeadlessEditorTest, UsageErrorsExitWithTwoAndSaySoOnTheErrorStreamOnly)
@@ -294,11 +225,14 @@ TEST_F(FHeadlessEditorTest, CreateFindsTheWorldWhateverCaseTheLaunchFolderAndPro
 
 TEST_F(FHeadlessEditorTest, AProjectAboveTheDriveRootIsOnTheDriveRootAndNothingIsWrittenOutsideTheRoot)
 {
-	CopyProjectData();
+	fs::create_directories(Drive("elsewhere/P"));
+	std::ofstream(Drive("elsewhere/P/P.uproject")) << "{ \"FileVersion\": 3 }";
+	fs::copy(REPOSITORY_DIR "/Templates", Drive("elsewhere/P/Templates"), fs::copy_options::recursive);
 
-	Run({"--root", Sandbox().string(), "--project", "C:/../../elsewhere/P/P.uproject", "create", "Northline"});
+	const FRun Run = this->Run({"--root", Sandbox().string(), "--project", "C:/../../elsewhere/P/P.uproject", "create", "Northline"});
 
-	EXPECT_TRUE(fs::is_directory(Drive("elsewhere/P/Plugins")));
+	EXPECT_EQ(Run.ExitCode, 0) << Run.Err;
+	EXPECT_TRUE(fs::is_directory(Drive("elsewhere/P/Plugins/Northline")));
 	EXPECT_FALSE(fs::exists(Root / "elsewhere"));
 }
 
@@ -314,14 +248,14 @@ TEST_F(FHeadlessEditorTest, CreateWithANameTheWizardRefusesExitsWithTwoAndLeaves
 	EXPECT_EQ(Run.Out.find("Notification: "), std::string::npos);
 }
 
-TEST_F(FHeadlessEditorTest, CreateWithATemplateTheWizardDoesNotListExitsWithTwo)
+TEST_F(FHeadlessEditorTest, CreateWithATemplateTheWizardDoesNotListExitsWithTwoAndQuotesIt)
 {
 	CopyProjectData();
 
-	const FRun Run = this->Run({"--root", Sandbox().string(), "create", "Northline", "--template", "Freight"});
+	const FRun Run = this->Run({"--root", Sandbox().string(), "create", "Northline", "--template", " Route"});
 
 	EXPECT_EQ(Run.ExitCode, 2);
-	EXPECT_NE(Run.Err.find("Freight"), std::string::npos) << Run.Err;
+	EXPECT_NE(Run.Err.find("no template named \" Route\""), std::string::npos) << Run.Err;
 	EXPECT_NE(Run.Err.find("ServiceMode"), std::string::npos) << Run.Err;
 	EXPECT_FALSE(fs::exists(Drive("Work/Moravane/Plugins/Northline")));
 }

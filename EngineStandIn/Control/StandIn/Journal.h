@@ -14,10 +14,11 @@ namespace StandIn
 	{
 	public:
 		virtual ~FJournalRecord() = default;
-		// One line that says what happened, as the headless editor prints it where the editor shows it.
+		// One line that says everything that happened, for a reader of the journal.
 		virtual std::string Describe() const = 0;
-		// False for what a person at the editor does not see (child processes, Win32 calls).
-		virtual bool IsShownInEditor() const { return true; }
+		// The line a person at the editor sees for it, its values put in with ShownText.h; empty for what
+		// the editor does not show (child processes, Win32 calls). By default the description, shown.
+		virtual std::string ShownLine() const;
 	};
 
 	const std::vector<std::shared_ptr<const FJournalRecord>>& Journal();
@@ -45,4 +46,11 @@ namespace StandIn
 
 	// For the stand-in's services: adds a record and tells the listener.
 	void AppendToJournal(std::shared_ptr<const FJournalRecord> Record);
+
+	// Called when the editor is about to wait for something outside it (a child process, a person at a
+	// prompt, a running task), so that whoever shows the journal can bring its reader up to date first.
+	void SetWaitListener(std::function<void()> Listener);
+
+	// For the stand-in's services: says that the editor is about to wait.
+	void AnnounceWait();
 }

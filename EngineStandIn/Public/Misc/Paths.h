@@ -19,6 +19,8 @@ public:
 	static bool CollapseRelativeDirectories(FString& InPath);
 	static bool IsRelative(const FString& InPath);
 	static void NormalizeFilename(FString& InPath);
+	// Every run of '/' made one; backslashes are to be normalised first.
+	static void RemoveDuplicateSlashes(FString& InPath);
 
 	static FString GetCleanFilename(const FString& InPath);
 	static FString GetBaseFilename(const FString& InPath, bool bRemovePath = true);

@@ -14,6 +14,8 @@ namespace StandIn
 
 		// "Build tool: <description> | <arguments>"
 		std::string Describe() const override;
+		// Not shown in the editor.
+		std::string ShownLine() const override { return std::string(); }
 
 		FText Description;
 		FString Arguments;

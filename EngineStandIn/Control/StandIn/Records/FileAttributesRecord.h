@@ -14,7 +14,8 @@ namespace StandIn
 
 		// "SetFileAttributesW: <path> 0x<attributes>"
 		std::string Describe() const override;
-		bool IsShownInEditor() const override { return false; }
+		// Not shown in the editor.
+		std::string ShownLine() const override { return std::string(); }
 
 		FString Path;
 		uint32 Attributes;

@@ -15,7 +15,8 @@ namespace StandIn
 
 		// "Refused outside the drive root: <path>"
 		std::string Describe() const override;
-		bool IsShownInEditor() const override { return false; }
+		// Not shown in the editor.
+		std::string ShownLine() const override { return std::string(); }
 
 		FString Path;
 	};

@@ -16,7 +16,8 @@ namespace StandIn
 
 		// "Process: <command line>"
 		std::string Describe() const override;
-		bool IsShownInEditor() const override { return false; }
+		// Not shown in the editor.
+		std::string ShownLine() const override { return std::string(); }
 
 		FString CommandLine;
 	};
@@ -30,7 +31,8 @@ namespace StandIn
 
 		// "system: <command>"
 		std::string Describe() const override;
-		bool IsShownInEditor() const override { return false; }
+		// Not shown in the editor.
+		std::string ShownLine() const override { return std::string(); }
 
 		std::string Command;
 	};

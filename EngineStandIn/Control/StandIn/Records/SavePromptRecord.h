@@ -14,6 +14,8 @@ namespace StandIn
 	public:
 		// "Save prompt: <package>, <package>, ... -> <answer>", or "Save without prompt: <packages>"
 		std::string Describe() const override;
+		// "Save prompt: <package>, <package>, ..." when the prompt was shown; nothing otherwise.
+		std::string ShownLine() const override;
 
 		bool bPromptUserToSave = false;
 		bool bSaveMapPackages = false;

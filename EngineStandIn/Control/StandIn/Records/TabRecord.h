@@ -24,6 +24,9 @@ namespace StandIn
 		// "Tab: <display name> (<tab id>) <width>x<height>", "Tab to front: <display name> (<tab id>)",
 		// "Tab closed: <display name> (<tab id>)"
 		std::string Describe() const override;
+		// A person sees the tab's window open: "Tab: <display name> (<tab id>) <width>x<height>" for a
+		// spawned tab, nothing otherwise.
+		std::string ShownLine() const override;
 
 		EKind Kind;
 		TSharedRef<SDockTab> Tab;

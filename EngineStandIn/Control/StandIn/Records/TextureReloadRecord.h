@@ -11,5 +11,7 @@ namespace StandIn
 	public:
 		// "Renderer: ReloadTextureResources"
 		std::string Describe() const override { return "Renderer: ReloadTextureResources"; }
+		// Not shown in the editor.
+		std::string ShownLine() const override { return std::string(); }
 	};
 }

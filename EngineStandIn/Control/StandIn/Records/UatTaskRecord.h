@@ -16,6 +16,9 @@ namespace StandIn
 
 		// "Automation task: <task name> (<platform>): <command line>"
 		std::string Describe() const override;
+		// "Task: <task name> | <short task name> | <platform> | <icon resource or none> | <command line>",
+		// the command line exactly as handed over, trailing blanks included.
+		std::string ShownLine() const override;
 
 		// Exactly as the automation tool would be handed it.
 		FString CommandLine;
