@@ -42,6 +42,15 @@ const char* UsageText()
 		   "      Mod\" tab selects the named templates (as the wizard lists them, e.g. ServiceMode) in\n"
 		   "      the order given, types NAME as the plugin's name and clicks the create button. When no\n"
 		   "      tab opens (the Plugin Browser is not loaded), the command ends after the message.\n"
+		   "  automation [--filter TEXT]\n"
+		   "      Runs every registered automation test whose full path contains TEXT (blanks left out,\n"
+		   "      letter case ignored; default UGCEditor), as \"Automation RunTests TEXT\" does in an\n"
+		   "      editor. Each test logs, as the editor's automation controller does:\n"
+		   "        LogAutomationController: Display: Test Started. Name={NAME}\n"
+		   "        LogAutomationController: Display: Test Completed. Result={Passed} Name={NAME} Path={PATH}\n"
+		   "      or, for a failed test, Error: Test Completed. Result={Failed} ...; then its events\n"
+		   "      between BeginEvents: PATH and EndEvents: PATH, each error as\n"
+		   "      LogAutomationController: Error: TEXT. NAME is the last part of the dotted PATH.\n"
 		   "\n"
 		   "Output, on standard output, each line as it happens:\n"
 		   "  LogTemp: Warning: text     a log line as the Output Log shows it (any category; no\n"
@@ -63,7 +72,8 @@ const char* UsageText()
 		   "                             an automation task; the command line exactly as handed over,\n"
 		   "                             trailing blanks included\n"
 		   "\n"
-		   "Exit status: 0 when the session ran, whatever the tools did; 2 for a usage error, or when\n"
+		   "Exit status: 0 when the session ran, whatever the tools did (automation: when at least one\n"
+		   "test ran and all passed; 1 when one failed; 2 when none matched); 2 for a usage error, or when\n"
 		   "the command needs something the editor does not show (a plugin the dialog or the \"Cook Mod\"\n"
 		   "drop-down does not offer, a template the wizard does not list, a name the wizard refuses):\n"
 		   "then one message on standard error and nothing is done.\n";
@@ -208,15 +218,19 @@ FEditorCommandLine ParseCommandLine(const std::vector<std::string>& Arguments)
 		{
 			TakeCreateOption(Arguments, Index, Result);
 		}
-		else if (Result.Command == "menus")
+		else if (Result.Command == "automation" && Argument == "--filter")
 		{
-			throw FUsageError{"menus takes no options: " + Argument};
+			Result.Filter = TakeValue(Arguments, Index);
+		}
+		else if (Result.Command == "menus" || Result.Command == "automation")
+		{
+			throw FUsageError{"unknown option for " + Result.Command + ": " + Argument};
 		}
 		else if (Argument.rfind("-", 0) == 0)
 		{
 			throw FUsageError{"unknown option: " + Argument};
 		}
-		else if (Argument != "distribute" && Argument != "cook" && Argument != "create" && Argument != "menus")
+		else if (Argument != "distribute" && Argument != "cook" && Argument != "create" && Argument != "menus" && Argument != "automation")
 		{
 			throw FUsageError{"unknown command: " + Argument};
 		}

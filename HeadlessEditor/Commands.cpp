@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "AutomationCommand.h"
 #include "PakingDialogDriver.h"
 #include "StandIn/Records/TabRecord.h"
 #include "StandIn/Records/WindowRecord.h"
@@ -218,6 +219,10 @@ int RunCommand(const FEditorCommandLine& CommandLine)
 {
 	try
 	{
+		if (CommandLine.Command == "automation")
+		{
+			return RunAutomation(CommandLine);
+		}
 		if (CommandLine.Command == "menus")
 		{
 			RunMenus();

@@ -10,6 +10,7 @@ public:
 	static FString LaunchDir();
 	static FString ProjectDir();
 	static FString ProjectPluginsDir();
+	static FString ProjectIntermediateDir();
 	static FString GetProjectFilePath();
 
 	static FString ConvertRelativePathToFull(const FString& InPath);

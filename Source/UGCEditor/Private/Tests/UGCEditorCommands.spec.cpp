@@ -1,0 +1,113 @@
+// Copyright UGCEditor contributors. All Rights Reserved.
+
+#include "CoreMinimal.h"
+#include "Misc/AutomationTest.h"
+
+#if WITH_DEV_AUTOMATION_TESTS
+
+#include "UGCEditorCommands.h"
+
+#include "Framework/Commands/InputBindingManager.h"
+#include "Framework/Commands/UICommandInfo.h"
+#include "Textures/SlateIcon.h"
+
+// Texts are compared as TCHAR strings: that form of TestEqual minds letter case, the FString one does not.
+BEGIN_DEFINE_SPEC(FUGCEditorCommandsSpec, TEXT("UGCEditor.Commands"), EAutomationTestFlags::EditorContext | EAutomationTestFlags::EngineFilter)
+/** Set when the module had not registered the set, so that the spec leaves the editor as it found it. */
+bool bRegisteredBySpec = false;
+END_DEFINE_SPEC(FUGCEditorCommandsSpec)
+
+void FUGCEditorCommandsSpec::Define()
+{
+	BeforeEach([this]() {
+		bRegisteredBySpec = !FUGCEditorCommands::IsRegistered();
+		if (bRegisteredBySpec)
+		{
+			FUGCEditorCommands::Register();
+		}
+	});
+
+	AfterEach([this]() {
+		if (bRegisteredBySpec)
+		{
+			FUGCEditorCommands::Unregister();
+		}
+	});
+
+	Describe(TEXT("the binding context"), [this]() {
+		It(TEXT("should be called UGCEditor and read Moravane Plugin"), [this]() {
+			TestEqual(TEXT("context name"), *FUGCEditorCommands::Get().GetContextName().ToString(), TEXT("UGCEditor"));
+			TestEqual(TEXT("context description"), *FUGCEditorCommands::Get().GetContextDesc().ToString(), TEXT("Moravane Plugin"));
+			TestTrue(TEXT("the context has no parent"), FUGCEditorCommands::Get().GetContextParent() == NAME_None);
+		});
+
+		It(TEXT("should take its icons from the style set UGCEditorStyle"), [this]() {
+			TestEqual(TEXT("style set name"), *FUGCEditorCommands::Get().GetStyleSetName().ToString(), TEXT("UGCEditorStyle"));
+		});
+
+		It(TEXT("should be the one the input binding manager knows as UGCEditor"), [this]() {
+			const TSharedPtr<FBindingContext> Context = FInputBindingManager::Get().GetContextByName(TEXT("UGCEditor"));
+			TestTrue(TEXT("the binding manager's context is the command set"), Context.Get() == &FUGCEditorCommands::Get());
+		});
+	});
+
+	Describe(TEXT("Create Mod"), [this]() {
+		It(TEXT("should be labelled Create Mod"), [this]() {
+			TestEqual(TEXT("label"), *FUGCEditorCommands::Get().CreateUGCAction->GetLabel().ToString(), TEXT("Create Mod"));
+		});
+
+		It(TEXT("should say that it creates a content plugin"), [this]() {
+			TestEqual(TEXT("tooltip"), *FUGCEditorCommands::Get().CreateUGCAction->GetDescription().ToString(), TEXT("Create a new DLC package as a content plugin"));
+		});
+
+		It(TEXT("should show the Create Mod icon of the module's style set"), [this]() {
+			const FSlateIcon& Icon = FUGCEditorCommands::Get().CreateUGCAction->GetIcon();
+			TestEqual(TEXT("icon style set"), *Icon.GetStyleSetName().ToString(), TEXT("UGCEditorStyle"));
+			TestEqual(TEXT("icon style name"), *Icon.GetStyleName().ToString(), TEXT("UGCEditor.CreateUGCAction"));
+		});
+	});
+
+	Describe(TEXT("Package Mod"), [this]() {
+		It(TEXT("should be labelled Package Mod"), [this]() {
+			TestEqual(TEXT("label"), *FUGCEditorCommands::Get().PackageUGCAction->GetLabel().ToString(), TEXT("Package Mod"));
+		});
+
+		It(TEXT("should say that it shares and distributes the DLC"), [this]() {
+			TestEqual(TEXT("tooltip"), *FUGCEditorCommands::Get().PackageUGCAction->GetDescription().ToString(), TEXT("Share and distribute your DLC"));
+		});
+
+		It(TEXT("should show the Package Mod icon of the module's style set"), [this]() {
+			const FSlateIcon& Icon = FUGCEditorCommands::Get().PackageUGCAction->GetIcon();
+			TestEqual(TEXT("icon style set"), *Icon.GetStyleSetName().ToString(), TEXT("UGCEditorStyle"));
+			TestEqual(TEXT("icon style name"), *Icon.GetStyleName().ToString(), TEXT("UGCEditor.PackageUGCAction"));
+		});
+	});
+
+	Describe(TEXT("Distribute"), [this]() {
+		It(TEXT("should be labelled Distribute"), [this]() {
+			TestEqual(TEXT("label"), *FUGCEditorCommands::Get().PakingUGCAction->GetLabel().ToString(), TEXT("Distribute"));
+		});
+
+		It(TEXT("should say that it writes the files and paks the DLC"), [this]() {
+			TestEqual(TEXT("tooltip"), *FUGCEditorCommands::Get().PakingUGCAction->GetDescription().ToString(), TEXT("Generating important files and paking your DLC"));
+		});
+
+		It(TEXT("should show the Distribute icon of the module's style set"), [this]() {
+			const FSlateIcon& Icon = FUGCEditorCommands::Get().PakingUGCAction->GetIcon();
+			TestEqual(TEXT("icon style set"), *Icon.GetStyleSetName().ToString(), TEXT("UGCEditorStyle"));
+			TestEqual(TEXT("icon style name"), *Icon.GetStyleName().ToString(), TEXT("UGCEditor.PakingUGCAction"));
+		});
+	});
+
+	It(TEXT("should register each command under its own name as a button"), [this]() {
+		const TSharedPtr<FUICommandInfo> Commands[] = {FUGCEditorCommands::Get().CreateUGCAction, FUGCEditorCommands::Get().PackageUGCAction, FUGCEditorCommands::Get().PakingUGCAction};
+		const TCHAR* const Names[] = {TEXT("CreateUGCAction"), TEXT("PackageUGCAction"), TEXT("PakingUGCAction")};
+		for (int32 Index = 0; Index < 3; ++Index)
+		{
+			TestTrue(*FString::Printf(TEXT("%s found in the context"), Names[Index]), FInputBindingManager::Get().FindCommandInContext(TEXT("UGCEditor"), Names[Index]) == Commands[Index]);
+			TestTrue(*FString::Printf(TEXT("%s is a button"), Names[Index]), Commands[Index]->GetUserInterfaceType() == EUserInterfaceActionType::Button);
+		}
+	});
+}
+
+#endif

@@ -1,0 +1,109 @@
+// Copyright UGCEditor contributors. All Rights Reserved.
+
+#include "CoreMinimal.h"
+#include "Misc/AutomationTest.h"
+
+#if WITH_DEV_AUTOMATION_TESTS
+
+#include "UGCEditorCommands.h"
+#include "UGCEditorStyle.h"
+
+#include "Framework/Commands/UICommandInfo.h"
+#include "Misc/Paths.h"
+#include "Styling/ISlateStyle.h"
+#include "Styling/SlateBrush.h"
+#include "Styling/SlateStyleRegistry.h"
+#include "Styling/StyleDefaults.h"
+#include "Textures/SlateIcon.h"
+
+BEGIN_DEFINE_SPEC(FUGCEditorStyleSpec, TEXT("UGCEditor.Style"), EAutomationTestFlags::EditorContext | EAutomationTestFlags::EngineFilter)
+/** Set when the module had not registered the style set, so that the spec leaves the editor as it found it. */
+bool bInitializedBySpec = false;
+bool bCommandsRegisteredBySpec = false;
+END_DEFINE_SPEC(FUGCEditorStyleSpec)
+
+void FUGCEditorStyleSpec::Define()
+{
+	BeforeEach([this]() {
+		bInitializedBySpec = FSlateStyleRegistry::FindSlateStyle(FUGCEditorStyle::GetStyleSetName()) == nullptr;
+		if (bInitializedBySpec)
+		{
+			FUGCEditorStyle::Initialize();
+		}
+		bCommandsRegisteredBySpec = !FUGCEditorCommands::IsRegistered();
+		if (bCommandsRegisteredBySpec)
+		{
+			FUGCEditorCommands::Register();
+		}
+	});
+
+	AfterEach([this]() {
+		if (bCommandsRegisteredBySpec)
+		{
+			FUGCEditorCommands::Unregister();
+		}
+		if (bInitializedBySpec)
+		{
+			FUGCEditorStyle::Shutdown();
+		}
+	});
+
+	It(TEXT("should be registered with Slate as UGCEditorStyle"), [this]() {
+		TestEqual(TEXT("style set name"), *FUGCEditorStyle::GetStyleSetName().ToString(), TEXT("UGCEditorStyle"));
+		TestTrue(TEXT("the registered style set is the module's"), FSlateStyleRegistry::FindSlateStyle(TEXT("UGCEditorStyle")) == &FUGCEditorStyle::Get());
+	});
+
+	Describe(TEXT("the Create Mod icon"), [this]() {
+		It(TEXT("should be CreateUGC_64x png from the project's Resources folder"), [this]() {
+			const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(TEXT("UGCEditor.CreateUGCAction"), nullptr, nullptr);
+			if (TestNotNull(TEXT("brush"), Brush))
+			{
+				TestEqual(TEXT("image file"), *Brush->GetResourceName().ToString(), *(FPaths::ProjectDir() / TEXT("Resources") / TEXT("CreateUGC_64x.png")));
+			}
+		});
+
+		It(TEXT("should be drawn at 40 by 40 in white"), [this]() {
+			const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(TEXT("UGCEditor.CreateUGCAction"), nullptr, nullptr);
+			if (TestNotNull(TEXT("brush"), Brush))
+			{
+				TestEqual(TEXT("image size"), Brush->GetImageSize(), FVector2D(40.0f, 40.0f));
+				TestEqual(TEXT("tint"), Brush->TintColor.GetSpecifiedColor(), FLinearColor(1.0f, 1.0f, 1.0f, 1.0f));
+			}
+		});
+	});
+
+	Describe(TEXT("the Package Mod icon"), [this]() {
+		It(TEXT("should be PackageUGC_64x png from the project's Resources folder"), [this]() {
+			const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(TEXT("UGCEditor.PackageUGCAction"), nullptr, nullptr);
+			if (TestNotNull(TEXT("brush"), Brush))
+			{
+				TestEqual(TEXT("image file"), *Brush->GetResourceName().ToString(), *(FPaths::ProjectDir() / TEXT("Resources") / TEXT("PackageUGC_64x.png")));
+				TestEqual(TEXT("image size"), Brush->GetImageSize(), FVector2D(40.0f, 40.0f));
+			}
+		});
+	});
+
+	Describe(TEXT("the Distribute icon"), [this]() {
+		It(TEXT("should be DistributeUGC_64x png from the project's Resources folder"), [this]() {
+			const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(TEXT("UGCEditor.PakingUGCAction"), nullptr, nullptr);
+			if (TestNotNull(TEXT("brush"), Brush))
+			{
+				TestEqual(TEXT("image file"), *Brush->GetResourceName().ToString(), *(FPaths::ProjectDir() / TEXT("Resources") / TEXT("DistributeUGC_64x.png")));
+				TestEqual(TEXT("image size"), Brush->GetImageSize(), FVector2D(40.0f, 40.0f));
+			}
+		});
+	});
+
+	It(TEXT("should be what the commands' icons draw"), [this]() {
+		TestTrue(TEXT("Create Mod draws the style's brush"), FUGCEditorCommands::Get().CreateUGCAction->GetIcon().GetIcon() == FUGCEditorStyle::Get().GetBrush(TEXT("UGCEditor.CreateUGCAction")));
+		TestTrue(TEXT("Package Mod draws the style's brush"), FUGCEditorCommands::Get().PackageUGCAction->GetIcon().GetIcon() == FUGCEditorStyle::Get().GetBrush(TEXT("UGCEditor.PackageUGCAction")));
+		TestTrue(TEXT("Distribute draws the style's brush"), FUGCEditorCommands::Get().PakingUGCAction->GetIcon().GetIcon() == FUGCEditorStyle::Get().GetBrush(TEXT("UGCEditor.PakingUGCAction")));
+	});
+
+	It(TEXT("should have no brush for the folder icon, so the cook menus' plugin entries draw nothing"), [this]() {
+		TestNull(TEXT("optional brush"), FUGCEditorStyle::Get().GetOptionalBrush(TEXT("UGCEditor.Folder"), nullptr, nullptr));
+		TestTrue(TEXT("the icon resolves to no brush"), FSlateIcon(FUGCEditorStyle::GetStyleSetName(), TEXT("UGCEditor.Folder")).GetIcon() == FStyleDefaults::GetNoBrush());
+	});
+}
+
+#endif
