@@ -310,9 +310,9 @@ TEST_F(FHeadlessEditorTest, AutomationRunsTheSpecsWhosePathContainsTheFilterInAn
 	const std::string Path = "UGCEditor.PlatformFile.a read.should read the disk's copy of a file that is in both";
 	EXPECT_NE(Result.Out.find("LogAutomationController: Display: Test Started. Name={should read the disk's copy of a file that is in both}\n"
 							  "LogAutomationController: Display: Test Completed. Result={Passed} Name={should read the disk's copy of a file that is in both} Path={" +
-								  Path + "}\n"
-										 "LogAutomationController: BeginEvents: " +
-								  Path + "\nLogAutomationController: EndEvents: " + Path + "\n"),
+							  Path + "}\n"
+									 "LogAutomationController: BeginEvents: " +
+							  Path + "\nLogAutomationController: EndEvents: " + Path + "\n"),
 			  std::string::npos)
 		<< Result.Out;
 	size_t Completed = 0;

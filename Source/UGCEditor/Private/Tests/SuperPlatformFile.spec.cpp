@@ -133,13 +133,15 @@ void FSuperPlatformFileSpec::Define()
 
 		It(TEXT("should give the size on disk first and the lower layer's otherwise"), [this]() {
 			TestEqual(TEXT("size of the file in both"), (int32)Layer->FileSize(*OnDisk(TEXT("Both.txt"))), 10);
+			TestEqual(TEXT("size of the loose file"), (int32)Layer->FileSize(*OnDisk(TEXT("Loose.txt"))), 10);
 			TestEqual(TEXT("size of the packed file"), (int32)Layer->FileSize(*OnDisk(TEXT("Packed.txt"))), 700);
 			TestEqual(TEXT("size of a missing file"), (int32)Layer->FileSize(*OnDisk(TEXT("Missing.txt"))), -1);
 		});
 
-		It(TEXT("should find a folder that is only below"), [this]() {
+		It(TEXT("should find a folder on either side"), [this]() {
 			TestTrue(TEXT("packed folder exists"), Layer->DirectoryExists(*OnDisk(TEXT("PackedFolder"))));
 			TestTrue(TEXT("disk folder exists"), Layer->DirectoryExists(*DiskFolder));
+			TestFalse(TEXT("missing folder exists"), Layer->DirectoryExists(*OnDisk(TEXT("Missing"))));
 		});
 	});
 

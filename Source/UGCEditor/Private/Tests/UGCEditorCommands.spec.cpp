@@ -9,6 +9,7 @@
 
 #include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Commands/UICommandInfo.h"
+#include "Internationalization/Text.h"
 #include "Textures/SlateIcon.h"
 
 // Texts are compared as TCHAR strings: that form of TestEqual minds letter case, the FString one does not.
@@ -39,6 +40,8 @@ void FUGCEditorCommandsSpec::Define()
 			TestEqual(TEXT("context name"), *FUGCEditorCommands::Get().GetContextName().ToString(), TEXT("UGCEditor"));
 			TestEqual(TEXT("context description"), *FUGCEditorCommands::Get().GetContextDesc().ToString(), TEXT("Moravane Plugin"));
 			TestTrue(TEXT("the context has no parent"), FUGCEditorCommands::Get().GetContextParent() == NAME_None);
+			TestEqual(TEXT("description's namespace"), *FTextInspector::GetNamespace(FUGCEditorCommands::Get().GetContextDesc()).Get(FString()), TEXT("Contexts"));
+			TestEqual(TEXT("description's key"), *FTextInspector::GetKey(FUGCEditorCommands::Get().GetContextDesc()).Get(FString()), TEXT("UGCEditor"));
 		});
 
 		It(TEXT("should take its icons from the style set UGCEditorStyle"), [this]() {
@@ -106,6 +109,18 @@ void FUGCEditorCommandsSpec::Define()
 		{
 			TestTrue(*FString::Printf(TEXT("%s found in the context"), Names[Index]), FInputBindingManager::Get().FindCommandInContext(TEXT("UGCEditor"), Names[Index]) == Commands[Index]);
 			TestTrue(*FString::Printf(TEXT("%s is a button"), Names[Index]), Commands[Index]->GetUserInterfaceType() == EUserInterfaceActionType::Button);
+		}
+	});
+
+	It(TEXT("should keep each command's texts under the command's own localisation keys"), [this]() {
+		const TSharedPtr<FUICommandInfo> Commands[] = {FUGCEditorCommands::Get().CreateUGCAction, FUGCEditorCommands::Get().PackageUGCAction, FUGCEditorCommands::Get().PakingUGCAction};
+		for (const TSharedPtr<FUICommandInfo>& Command : Commands)
+		{
+			const FString Name = Command->GetCommandName().ToString();
+			TestEqual(*(Name + TEXT(" label's namespace")), *FTextInspector::GetNamespace(Command->GetLabel()).Get(FString()), TEXT("UICommands.FUGCEditorModule"));
+			TestEqual(*(Name + TEXT(" label's key")), *FTextInspector::GetKey(Command->GetLabel()).Get(FString()), *Name);
+			TestEqual(*(Name + TEXT(" tooltip's namespace")), *FTextInspector::GetNamespace(Command->GetDescription()).Get(FString()), TEXT("UICommands.FUGCEditorModule"));
+			TestEqual(*(Name + TEXT(" tooltip's key")), *FTextInspector::GetKey(Command->GetDescription()).Get(FString()), *(Name + TEXT("_ToolTip")));
 		}
 	});
 }

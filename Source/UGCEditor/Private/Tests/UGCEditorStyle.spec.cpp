@@ -62,12 +62,15 @@ void FUGCEditorStyleSpec::Define()
 			}
 		});
 
-		It(TEXT("should be drawn at 40 by 40 in white"), [this]() {
+		It(TEXT("should be drawn once at 40 by 40, in full colour and white"), [this]() {
 			const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(TEXT("UGCEditor.CreateUGCAction"), nullptr, nullptr);
 			if (TestNotNull(TEXT("brush"), Brush))
 			{
 				TestEqual(TEXT("image size"), Brush->GetImageSize(), FVector2D(40.0f, 40.0f));
 				TestEqual(TEXT("tint"), Brush->TintColor.GetSpecifiedColor(), FLinearColor(1.0f, 1.0f, 1.0f, 1.0f));
+				TestTrue(TEXT("drawn as an image"), Brush->GetDrawType() == ESlateBrushDrawType::Image);
+				TestTrue(TEXT("not tiled"), Brush->GetTiling() == ESlateBrushTileType::NoTile);
+				TestTrue(TEXT("in full colour"), Brush->GetImageType() == ESlateBrushImageType::FullColor);
 			}
 		});
 	});

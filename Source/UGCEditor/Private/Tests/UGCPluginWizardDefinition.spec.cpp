@@ -107,7 +107,7 @@ void FUGCPluginWizardDefinitionSpec::Define()
 
 	It(TEXT("should give the new plugin the base template's icon"), [this]() {
 		FString IconPath;
-		Definition->GetPluginIconPath(IconPath);
+		TestFalse(TEXT("returned"), Definition->GetPluginIconPath(IconPath));
 		TestEqual(TEXT("plugin icon"), *IconPath, *(TemplateFolder(TEXT("BaseTemplate")) / TEXT("Resources/Icon128.png")));
 	});
 
@@ -115,7 +115,7 @@ void FUGCPluginWizardDefinitionSpec::Define()
 		for (const TSharedRef<FPluginTemplateDescription>& Template : Definition->GetTemplatesSource())
 		{
 			FString IconPath;
-			Definition->GetTemplateIconPath(Template, IconPath);
+			TestFalse(*(Template->Name.ToString() + TEXT(" returned")), Definition->GetTemplateIconPath(Template, IconPath));
 			TestEqual(*(Template->Name.ToString() + TEXT(" icon")), *IconPath, *(FPaths::ProjectDir() / TEXT("Resources/Icon128.png")));
 		}
 	});
