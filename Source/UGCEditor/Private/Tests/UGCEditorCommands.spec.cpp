@@ -54,53 +54,36 @@ void FUGCEditorCommandsSpec::Define()
 		});
 	});
 
-	Describe(TEXT("Create Mod"), [this]() {
-		It(TEXT("should be labelled Create Mod"), [this]() {
-			TestEqual(TEXT("label"), *FUGCEditorCommands::Get().CreateUGCAction->GetLabel().ToString(), TEXT("Create Mod"));
-		});
+	struct FExpectedCommand
+	{
+		TSharedPtr<FUICommandInfo> FUGCEditorCommands::*Member;
+		const TCHAR* Label;
+		const TCHAR* Tooltip;
+		const TCHAR* IconStyleName;
+	};
+	const FExpectedCommand ExpectedCommands[] = {
+		{&FUGCEditorCommands::CreateUGCAction, TEXT("Create Mod"), TEXT("Create a new DLC package as a content plugin"), TEXT("UGCEditor.CreateUGCAction")},
+		{&FUGCEditorCommands::PackageUGCAction, TEXT("Package Mod"), TEXT("Share and distribute your DLC"), TEXT("UGCEditor.PackageUGCAction")},
+		{&FUGCEditorCommands::PakingUGCAction, TEXT("Distribute"), TEXT("Generating important files and paking your DLC"), TEXT("UGCEditor.PakingUGCAction")},
+	};
+	for (const FExpectedCommand& Expected : ExpectedCommands)
+	{
+		Describe(Expected.Label, [this, Expected]() {
+			It(FString::Printf(TEXT("should be labelled %s"), Expected.Label), [this, Expected]() {
+				TestEqual(TEXT("label"), *(FUGCEditorCommands::Get().*Expected.Member)->GetLabel().ToString(), Expected.Label);
+			});
 
-		It(TEXT("should say that it creates a content plugin"), [this]() {
-			TestEqual(TEXT("tooltip"), *FUGCEditorCommands::Get().CreateUGCAction->GetDescription().ToString(), TEXT("Create a new DLC package as a content plugin"));
-		});
+			It(FString::Printf(TEXT("should read \"%s\" as its tooltip"), Expected.Tooltip), [this, Expected]() {
+				TestEqual(TEXT("tooltip"), *(FUGCEditorCommands::Get().*Expected.Member)->GetDescription().ToString(), Expected.Tooltip);
+			});
 
-		It(TEXT("should show the Create Mod icon of the module's style set"), [this]() {
-			const FSlateIcon& Icon = FUGCEditorCommands::Get().CreateUGCAction->GetIcon();
-			TestEqual(TEXT("icon style set"), *Icon.GetStyleSetName().ToString(), TEXT("UGCEditorStyle"));
-			TestEqual(TEXT("icon style name"), *Icon.GetStyleName().ToString(), TEXT("UGCEditor.CreateUGCAction"));
+			It(TEXT("should show its icon from the module's style set"), [this, Expected]() {
+				const FSlateIcon& Icon = (FUGCEditorCommands::Get().*Expected.Member)->GetIcon();
+				TestEqual(TEXT("icon style set"), *Icon.GetStyleSetName().ToString(), TEXT("UGCEditorStyle"));
+				TestEqual(TEXT("icon style name"), *Icon.GetStyleName().ToString(), Expected.IconStyleName);
+			});
 		});
-	});
-
-	Describe(TEXT("Package Mod"), [this]() {
-		It(TEXT("should be labelled Package Mod"), [this]() {
-			TestEqual(TEXT("label"), *FUGCEditorCommands::Get().PackageUGCAction->GetLabel().ToString(), TEXT("Package Mod"));
-		});
-
-		It(TEXT("should say that it shares and distributes the DLC"), [this]() {
-			TestEqual(TEXT("tooltip"), *FUGCEditorCommands::Get().PackageUGCAction->GetDescription().ToString(), TEXT("Share and distribute your DLC"));
-		});
-
-		It(TEXT("should show the Package Mod icon of the module's style set"), [this]() {
-			const FSlateIcon& Icon = FUGCEditorCommands::Get().PackageUGCAction->GetIcon();
-			TestEqual(TEXT("icon style set"), *Icon.GetStyleSetName().ToString(), TEXT("UGCEditorStyle"));
-			TestEqual(TEXT("icon style name"), *Icon.GetStyleName().ToString(), TEXT("UGCEditor.PackageUGCAction"));
-		});
-	});
-
-	Describe(TEXT("Distribute"), [this]() {
-		It(TEXT("should be labelled Distribute"), [this]() {
-			TestEqual(TEXT("label"), *FUGCEditorCommands::Get().PakingUGCAction->GetLabel().ToString(), TEXT("Distribute"));
-		});
-
-		It(TEXT("should say that it writes the files and paks the DLC"), [this]() {
-			TestEqual(TEXT("tooltip"), *FUGCEditorCommands::Get().PakingUGCAction->GetDescription().ToString(), TEXT("Generating important files and paking your DLC"));
-		});
-
-		It(TEXT("should show the Distribute icon of the module's style set"), [this]() {
-			const FSlateIcon& Icon = FUGCEditorCommands::Get().PakingUGCAction->GetIcon();
-			TestEqual(TEXT("icon style set"), *Icon.GetStyleSetName().ToString(), TEXT("UGCEditorStyle"));
-			TestEqual(TEXT("icon style name"), *Icon.GetStyleName().ToString(), TEXT("UGCEditor.PakingUGCAction"));
-		});
-	});
+	}
 
 	It(TEXT("should register each command under its own name as a button"), [this]() {
 		const TSharedPtr<FUICommandInfo> Commands[] = {FUGCEditorCommands::Get().CreateUGCAction, FUGCEditorCommands::Get().PackageUGCAction, FUGCEditorCommands::Get().PakingUGCAction};

@@ -53,49 +53,41 @@ void FUGCEditorStyleSpec::Define()
 		TestTrue(TEXT("the registered style set is the module's"), FSlateStyleRegistry::FindSlateStyle(TEXT("UGCEditorStyle")) == &FUGCEditorStyle::Get());
 	});
 
-	Describe(TEXT("the Create Mod icon"), [this]() {
-		It(TEXT("should be CreateUGC_64x png from the project's Resources folder"), [this]() {
-			const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(TEXT("UGCEditor.CreateUGCAction"), nullptr, nullptr);
-			if (TestNotNull(TEXT("brush"), Brush))
-			{
-				TestEqual(TEXT("image file"), *Brush->GetResourceName().ToString(), *(FPaths::ProjectDir() / TEXT("Resources") / TEXT("CreateUGC_64x.png")));
-			}
-		});
+	struct FExpectedIcon
+	{
+		const TCHAR* Command;
+		const TCHAR* StyleName;
+		const TCHAR* ImageFile;
+	};
+	const FExpectedIcon ExpectedIcons[] = {
+		{TEXT("Create Mod"), TEXT("UGCEditor.CreateUGCAction"), TEXT("CreateUGC_64x.png")},
+		{TEXT("Package Mod"), TEXT("UGCEditor.PackageUGCAction"), TEXT("PackageUGC_64x.png")},
+		{TEXT("Distribute"), TEXT("UGCEditor.PakingUGCAction"), TEXT("DistributeUGC_64x.png")},
+	};
+	for (const FExpectedIcon& Expected : ExpectedIcons)
+	{
+		Describe(FString::Printf(TEXT("the %s icon"), Expected.Command), [this, Expected]() {
+			It(TEXT("should be drawn from its own image in the project's Resources folder"), [this, Expected]() {
+				const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(Expected.StyleName, nullptr, nullptr);
+				if (TestNotNull(TEXT("brush"), Brush))
+				{
+					TestEqual(TEXT("image file"), *Brush->GetResourceName().ToString(), *(FPaths::ProjectDir() / TEXT("Resources") / Expected.ImageFile));
+				}
+			});
 
-		It(TEXT("should be drawn once at 40 by 40, in full colour and white"), [this]() {
-			const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(TEXT("UGCEditor.CreateUGCAction"), nullptr, nullptr);
-			if (TestNotNull(TEXT("brush"), Brush))
-			{
-				TestEqual(TEXT("image size"), Brush->GetImageSize(), FVector2D(40.0f, 40.0f));
-				TestEqual(TEXT("tint"), Brush->TintColor.GetSpecifiedColor(), FLinearColor(1.0f, 1.0f, 1.0f, 1.0f));
-				TestTrue(TEXT("drawn as an image"), Brush->GetDrawType() == ESlateBrushDrawType::Image);
-				TestTrue(TEXT("not tiled"), Brush->GetTiling() == ESlateBrushTileType::NoTile);
-				TestTrue(TEXT("in full colour"), Brush->GetImageType() == ESlateBrushImageType::FullColor);
-			}
+			It(TEXT("should be drawn once at 40 by 40, in full colour and white"), [this, Expected]() {
+				const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(Expected.StyleName, nullptr, nullptr);
+				if (TestNotNull(TEXT("brush"), Brush))
+				{
+					TestEqual(TEXT("image size"), Brush->GetImageSize(), FVector2D(40.0f, 40.0f));
+					TestEqual(TEXT("tint"), Brush->TintColor.GetSpecifiedColor(), FLinearColor(1.0f, 1.0f, 1.0f, 1.0f));
+					TestTrue(TEXT("drawn as an image"), Brush->GetDrawType() == ESlateBrushDrawType::Image);
+					TestTrue(TEXT("not tiled"), Brush->GetTiling() == ESlateBrushTileType::NoTile);
+					TestTrue(TEXT("in full colour"), Brush->GetImageType() == ESlateBrushImageType::FullColor);
+				}
+			});
 		});
-	});
-
-	Describe(TEXT("the Package Mod icon"), [this]() {
-		It(TEXT("should be PackageUGC_64x png from the project's Resources folder"), [this]() {
-			const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(TEXT("UGCEditor.PackageUGCAction"), nullptr, nullptr);
-			if (TestNotNull(TEXT("brush"), Brush))
-			{
-				TestEqual(TEXT("image file"), *Brush->GetResourceName().ToString(), *(FPaths::ProjectDir() / TEXT("Resources") / TEXT("PackageUGC_64x.png")));
-				TestEqual(TEXT("image size"), Brush->GetImageSize(), FVector2D(40.0f, 40.0f));
-			}
-		});
-	});
-
-	Describe(TEXT("the Distribute icon"), [this]() {
-		It(TEXT("should be DistributeUGC_64x png from the project's Resources folder"), [this]() {
-			const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(TEXT("UGCEditor.PakingUGCAction"), nullptr, nullptr);
-			if (TestNotNull(TEXT("brush"), Brush))
-			{
-				TestEqual(TEXT("image file"), *Brush->GetResourceName().ToString(), *(FPaths::ProjectDir() / TEXT("Resources") / TEXT("DistributeUGC_64x.png")));
-				TestEqual(TEXT("image size"), Brush->GetImageSize(), FVector2D(40.0f, 40.0f));
-			}
-		});
-	});
+	}
 
 	It(TEXT("should be what the commands' icons draw"), [this]() {
 		TestTrue(TEXT("Create Mod draws the style's brush"), FUGCEditorCommands::Get().CreateUGCAction->GetIcon().GetIcon() == FUGCEditorStyle::Get().GetBrush(TEXT("UGCEditor.CreateUGCAction")));
