@@ -99,6 +99,11 @@ void FAutomationSpecBase::Describe(const FString& InDescription, TFunction<void(
 void FAutomationSpecBase::It(const FString& InDescription, TFunction<void()> DoWork)
 {
 	DescriptionStack.push_back(InDescription);
+	// The engine stops at a second case of the same name.
+	for (const FSpecCase& Case : Cases)
+	{
+		check(!Case.Description.Equals(GetDescription(), ESearchCase::CaseSensitive));
+	}
 	Cases.push_back(FSpecCase{GetDescription(), std::vector<std::shared_ptr<const FScope>>(ScopeStack.begin(), ScopeStack.end()), MoveTemp(DoWork)});
 	DescriptionStack.pop_back();
 }
