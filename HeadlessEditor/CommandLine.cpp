@@ -46,6 +46,15 @@ const char* UsageText()
 		   "      Mod\" tab selects the named templates (as the wizard lists them, e.g. ServiceMode) in\n"
 		   "      the order given, types NAME as the plugin's name and clicks the create button. When no\n"
 		   "      tab opens (the Plugin Browser is not loaded), the command ends after the message.\n"
+		   "  automation [--filter TEXT]\n"
+		   "      Runs every registered automation test whose full path contains TEXT (blanks left out,\n"
+		   "      letter case ignored; default UGCEditor), as \"Automation RunTests TEXT\" does in an\n"
+		   "      editor. Each test logs, as the editor's automation controller does:\n"
+		   "        LogAutomationController: Display: Test Started. Name={NAME}\n"
+		   "        LogAutomationController: Display: Test Completed. Result={Passed} Name={NAME} Path={PATH}\n"
+		   "      or, for a failed test, Error: Test Completed. Result={Failed} ...; then its events\n"
+		   "      between BeginEvents: PATH and EndEvents: PATH, each error as\n"
+		   "      LogAutomationController: Error: TEXT. NAME is the last part of the dotted PATH.\n"
 		   "\n"
 		   "Output, on standard output, each line as it happens:\n"
 		   "  LogTemp: Warning: text     a log line as the Output Log shows it (any category; no\n"
@@ -73,8 +82,10 @@ const char* UsageText()
 		   "\u240D, a tab as \u2409), U+0080 to U+009F, U+2028 and U+2029 as <U+XXXX>, and a | inside a\n"
 		   "field of a Menu: or Task: line as \u00A6.\n"
 		   "\n"
-		   "Exit status: 0 when the session ran, whatever the tools did; 2, with one message on standard\n"
-		   "error and nothing done, for a usage error or what the editor could not have been asked:\n"
+		   "Exit status: 0 when the session ran, whatever the tools did (automation: when at least one\n"
+		   "test ran and all passed; 1 when one failed; 2 when none matched, with a message on standard\n"
+		   "error); 2, with one message on standard error and nothing done, for a usage error or what the\n"
+		   "editor could not have been asked:\n"
 		   "two names, a template named twice, an argument that is not valid UTF-8 or holds a control\n"
 		   "character, a launch folder or project path holding \" < > | ? or *, a project file that is\n"
 		   "missing or not JSON, and for create a Templates/ folder or Templates/BaseTemplate that is\n"
@@ -340,15 +351,19 @@ FEditorCommandLine ParseCommandLine(const std::vector<std::string>& Arguments)
 		{
 			TakeCreateOption(Arguments, Index, Result);
 		}
-		else if (Result.Command == "menus")
+		else if (Result.Command == "automation" && Argument == "--filter")
 		{
-			throw FUsageError{"menus takes no options: " + Argument};
+			Result.Filter = TakeValue(Arguments, Index);
+		}
+		else if (Result.Command == "menus" || Result.Command == "automation")
+		{
+			throw FUsageError{"unknown option for " + Result.Command + ": " + Argument};
 		}
 		else if (Argument.rfind("-", 0) == 0)
 		{
 			throw FUsageError{"unknown option: " + Argument};
 		}
-		else if (Argument != "distribute" && Argument != "cook" && Argument != "create" && Argument != "menus")
+		else if (Argument != "distribute" && Argument != "cook" && Argument != "create" && Argument != "menus" && Argument != "automation")
 		{
 			throw FUsageError{"unknown command: " + Argument};
 		}

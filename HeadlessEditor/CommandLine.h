@@ -38,6 +38,8 @@ struct FEditorCommandLine
 	bool bSaveAll = false;
 	// create, in the order given
 	std::vector<std::string> Templates;
+	// automation: what the tests' full paths must contain
+	std::string Filter = "UGCEditor";
 };
 
 // Throws FUsageError with a message for the user.

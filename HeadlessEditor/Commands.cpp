@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "AutomationCommand.h"
 #include "PakingDialogDriver.h"
 #include "SessionOutput.h"
 #include "StandIn/ShownText.h"
@@ -220,6 +221,10 @@ int RunCommand(const FEditorCommandLine& CommandLine, FSessionOutput& Output)
 {
 	try
 	{
+		if (CommandLine.Command == "automation")
+		{
+			return RunAutomation(CommandLine);
+		}
 		if (CommandLine.Command == "menus")
 		{
 			RunMenus(Output);

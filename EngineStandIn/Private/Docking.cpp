@@ -67,6 +67,11 @@ namespace StandIn
 			}
 			const TSharedRef<SDockTab> Tab = Spawner.OnSpawnTab.Execute(Args);
 			Tab->bIsOpen = true;
+			// A tab that brings no label of its own is titled with the spawner's display name.
+			if (!Tab->TabLabel.IsBound() && Tab->TabLabel.Get().IsEmpty())
+			{
+				Tab->TabLabel = Spawner.DisplayName.IsEmpty() ? FText::FromString(Spawner.TabType.ToString()) : Spawner.DisplayName;
+			}
 			Window->SetContent(Tab);
 			State().OpenTabs.push_back(FOpenTab{Spawner.TabType, Spawner.DisplayName, Tab});
 			AppendToJournal(std::make_shared<FTabRecord>(FTabRecord::EKind::Spawned, Tab, Spawner.DisplayName, TabId.TabType.ToString(), Size));
@@ -133,6 +138,18 @@ TSharedPtr<SDockTab> FTabManager::TryInvokeTab(const FTabId& TabId)
 	}
 	FTabSpawnerEntry* Spawner = StandIn::FTabManagerAccess::FindSpawner(TabId.TabType);
 	return Spawner ? StandIn::FTabManagerAccess::Spawn(*Spawner, TabId) : TSharedPtr<SDockTab>();
+}
+
+TSharedPtr<SDockTab> FTabManager::FindExistingLiveTab(const FTabId& TabId) const
+{
+	for (const FOpenTab& Open : State().OpenTabs)
+	{
+		if (Open.TabType == TabId.TabType)
+		{
+			return Open.Tab;
+		}
+	}
+	return TSharedPtr<SDockTab>();
 }
 
 bool FTabManager::HasTabSpawner(FName TabId) const

@@ -75,6 +75,13 @@ FString FPaths::ProjectPluginsDir()
 	return ProjectDir() + TEXT("Plugins/");
 }
 
+// The engine goes through the project's user folder, which is the project folder unless the command
+// line names another; the stand-in's editor is never given one.
+FString FPaths::ProjectIntermediateDir()
+{
+	return ProjectDir() + TEXT("Intermediate/");
+}
+
 bool FPaths::IsRelative(const FString& InPath)
 {
 	const bool bIsRooted = InPath.StartsWith(TEXT("\\"), ESearchCase::CaseSensitive) || InPath.StartsWith(TEXT("/"), ESearchCase::CaseSensitive) || (InPath.Len() >= 2 && FChar::IsAlpha(InPath[0]) && InPath[1] == L':');

@@ -35,8 +35,3 @@ inline std::string Utf8(const FName& Name)
 {
 	return StandIn::ToUtf8(Name.ToString());
 }
-
-inline std::string Utf8(const TOptional<FString>& Text)
-{
-	return Text.IsSet() ? StandIn::ToUtf8(Text.GetValue()) : "<unset>";
-}

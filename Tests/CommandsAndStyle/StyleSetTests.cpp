@@ -4,32 +4,6 @@
 #include "Styling/StyleDefaults.h"
 #include "Textures/SlateIcon.h"
 
-TEST_F(FCommandsAndStyleTest, StyleSetHoldsTheThreeCommandIconsFromTheProjectsResources)
-{
-	FUGCEditorStyle::Initialize();
-
-	EXPECT_EQ(Utf8(FUGCEditorStyle::GetStyleSetName()), "UGCEditorStyle");
-	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle(TEXT("UGCEditorStyle")), &FUGCEditorStyle::Get());
-	EXPECT_EQ(Utf8(FUGCEditorStyle::Get().GetStyleSetName()), "UGCEditorStyle");
-	const std::pair<const char*, std::string> Brushes[] = {
-		{"UGCEditor.PackageUGCAction", "../../../Moravane/Resources/PackageUGC_64x.png"},
-		{"UGCEditor.CreateUGCAction", "../../../Moravane/Resources/CreateUGC_64x.png"},
-		{"UGCEditor.PakingUGCAction", "../../../Moravane/Resources/DistributeUGC_64x.png"},
-	};
-	for (const std::pair<const char*, std::string>& Expected : Brushes)
-	{
-		SCOPED_TRACE(Expected.first);
-		const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush(Expected.first, nullptr, nullptr);
-		ASSERT_NE(Brush, nullptr);
-		EXPECT_EQ(Utf8(Brush->GetResourceName()), Expected.second);
-		EXPECT_EQ(Brush->GetImageSize(), FVector2D(40.0f, 40.0f));
-		EXPECT_EQ(Brush->TintColor.GetSpecifiedColor(), FLinearColor(1.0f, 1.0f, 1.0f, 1.0f));
-		EXPECT_EQ(Brush->GetTiling(), ESlateBrushTileType::NoTile);
-		EXPECT_EQ(Brush->GetImageType(), ESlateBrushImageType::FullColor);
-		EXPECT_EQ(Brush->GetDrawType(), ESlateBrushDrawType::Image);
-	}
-}
-
 TEST_F(FCommandsAndStyleTest, ProjectOnAnotherDriveGivesAbsoluteIconPaths)
 {
 	StandIn::FWorld World = DefaultWorld();
@@ -41,14 +15,6 @@ TEST_F(FCommandsAndStyleTest, ProjectOnAnotherDriveGivesAbsoluteIconPaths)
 	const FSlateBrush* Brush = FUGCEditorStyle::Get().GetOptionalBrush("UGCEditor.CreateUGCAction", nullptr, nullptr);
 	ASSERT_NE(Brush, nullptr);
 	EXPECT_EQ(Utf8(Brush->GetResourceName()), "D:/Proj/Resources/CreateUGC_64x.png");
-}
-
-TEST_F(FCommandsAndStyleTest, FolderIconIsNotInTheStyleSetAndDrawsNothing)
-{
-	FUGCEditorStyle::Initialize();
-
-	EXPECT_EQ(FSlateIcon(FUGCEditorStyle::GetStyleSetName(), "UGCEditor.Folder").GetIcon(), FStyleDefaults::GetNoBrush());
-	EXPECT_EQ(FUGCEditorStyle::Get().GetOptionalBrush("UGCEditor.Folder", nullptr, nullptr), nullptr);
 }
 
 TEST_F(FCommandsAndStyleTest, SecondInitializeChangesNothing)

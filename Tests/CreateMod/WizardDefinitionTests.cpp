@@ -11,8 +11,6 @@ protected:
 		Definition = MakeShared<FUGCPluginWizardDefinition>();
 	}
 
-	std::vector<std::string> Folders() const { return ToUtf8Strings(Definition->GetFoldersForSelection()); }
-
 	void Select(std::initializer_list<int32> Indices, ESelectInfo::Type SelectInfo = ESelectInfo::OnMouseClick)
 	{
 		TArray<TSharedRef<FPluginTemplateDescription>> Items;
@@ -59,26 +57,6 @@ TEST_F(FWizardDefinitionTest, ASelectionReplacesThePreviousOneInTheReportedOrder
 	EXPECT_TRUE(Definition->HasValidTemplateSelection());
 }
 
-TEST_F(FWizardDefinitionTest, TheBaseTemplateAloneIsCopiedWhenNothingIsChosen)
-{
-	EXPECT_EQ(Folders(), std::vector<std::string>({"../../../Moravane/Templates/BaseTemplate"}));
-	EXPECT_EQ(StandIn::ToUtf8(Definition->GetPluginFolderPath()), "../../../Moravane/Templates/BaseTemplate");
-}
-
-TEST_F(FWizardDefinitionTest, ChosenFoldersFollowTheBaseTemplateInSelectionOrder)
-{
-	Select({1, 0});
-
-	EXPECT_EQ(Folders(), std::vector<std::string>({"../../../Moravane/Templates/BaseTemplate", "../../../Moravane/Templates/Scenario", "../../../Moravane/Templates/Route"}));
-}
-
-TEST_F(FWizardDefinitionTest, ServiceModeIsCopiedFromTheFolderWithTheSpace)
-{
-	Select({2});
-
-	EXPECT_EQ(Folders().at(1), "../../../Moravane/Templates/Service Mode");
-}
-
 TEST_F(FWizardDefinitionTest, ASourceFolderInAChosenTemplateMakesModules)
 {
 	WriteFile("C:/Work/Moravane/Templates/Scenario/Source/PLUGIN_NAME/PLUGIN_NAME.Build.cs", "x");
@@ -110,17 +88,6 @@ TEST_F(FWizardDefinitionTest, ContentIsAllowedWithoutASelectionAndWhenAChosenTem
 	EXPECT_FALSE(Definition->CanContainContent());
 	Select({0, 2});
 	EXPECT_TRUE(Definition->CanContainContent());
-}
-
-TEST_F(FWizardDefinitionTest, ThePluginIconIsTheBaseTemplatesAndTemplatesShowTheProjectIcon)
-{
-	FString IconPath;
-	EXPECT_FALSE(Definition->GetPluginIconPath(IconPath));
-	EXPECT_EQ(StandIn::ToUtf8(IconPath), "../../../Moravane/Templates/BaseTemplate/Resources/Icon128.png");
-
-	FString TemplateIconPath;
-	EXPECT_FALSE(Definition->GetTemplateIconPath(Definition->GetTemplatesSource()[2], TemplateIconPath));
-	EXPECT_EQ(StandIn::ToUtf8(TemplateIconPath), "../../../Moravane/Resources/Icon128.png");
 }
 
 TEST_F(FWizardDefinitionTest, TheDefinitionAnswersTheWizardsOtherQuestionsAsTheProjectWants)

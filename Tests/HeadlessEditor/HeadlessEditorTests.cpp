@@ -269,3 +269,36 @@ TEST_F(FHeadlessEditorTest, WithoutThePluginBrowserCreateEndsAfterTheMessage)
 	EXPECT_EQ(Run.Out.find("Tab: "), std::string::npos);
 	EXPECT_FALSE(fs::exists(Drive("Work/Moravane/Plugins/Northline")));
 }
+
+TEST_F(FHeadlessEditorTest, AutomationRunsTheSpecsWhosePathContainsTheFilterInAnyCaseAndTheyLeaveNoFiles)
+{
+	CopyProjectData();
+	const FRun Result = Run({"--root", Sandbox().string(), "automation", "--filter", "ugceditor.PLATFORMFILE.a read"});
+
+	EXPECT_EQ(Result.ExitCode, 0);
+	EXPECT_EQ(Result.Err, "");
+	const std::string Path = "UGCEditor.PlatformFile.a read.should read the disk's copy of a file that is in both";
+	EXPECT_NE(Result.Out.find("LogAutomationController: Display: Test Started. Name={should read the disk's copy of a file that is in both}\n"
+							  "LogAutomationController: Display: Test Completed. Result={Passed} Name={should read the disk's copy of a file that is in both} Path={" +
+							  Path + "}\n"
+									 "LogAutomationController: BeginEvents: " +
+							  Path + "\nLogAutomationController: EndEvents: " + Path + "\n"),
+			  std::string::npos)
+		<< Result.Out;
+	size_t Completed = 0;
+	for (size_t At = Result.Out.find("Test Completed."); At != std::string::npos; At = Result.Out.find("Test Completed.", At + 1))
+	{
+		++Completed;
+	}
+	EXPECT_EQ(Completed, 2u);
+	EXPECT_FALSE(fs::exists(Drive("Work/Moravane/Intermediate/UGCEditorSpecs")));
+}
+
+TEST_F(FHeadlessEditorTest, AutomationWithAFilterNoTestMatchesExitsWithTwoAndSaysSo)
+{
+	const FRun Result = Run({"--root", Sandbox().string(), "automation", "--filter", "NoSuchSpec"});
+
+	EXPECT_EQ(Result.ExitCode, 2);
+	EXPECT_EQ(Result.Err, "ugc-editor: no automation test's path contains \"NoSuchSpec\"; nothing was run.\n");
+	EXPECT_EQ(Result.Out.find("LogAutomationController"), std::string::npos);
+}

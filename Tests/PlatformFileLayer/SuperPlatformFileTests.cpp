@@ -53,17 +53,6 @@ TEST_F(FSandboxTest, SuperPlatformLayerDoesNotInitializeWithoutAnInnerLayer)
 	EXPECT_FALSE(Layer.Initialize(nullptr, TEXT("")));
 }
 
-TEST_F(FSuperPlatformFileTest, FileExistsAndSizeAnswerFromTheDiskFirstThenFromTheLowerLayer)
-{
-	EXPECT_TRUE(Layer.FileExists(TEXT("C:/Game/Disk.txt")));
-	EXPECT_TRUE(Layer.FileExists(TEXT("C:/Game/Lower.txt")));
-	EXPECT_FALSE(Layer.FileExists(TEXT("C:/Game/Missing.txt")));
-	EXPECT_EQ(Layer.FileSize(TEXT("C:/Game/Disk.txt")), 5);
-	EXPECT_EQ(Layer.FileSize(TEXT("C:/Game/Lower.txt")), 7);
-	EXPECT_EQ(Layer.FileSize(TEXT("C:/Game/Both.txt")), 3);
-	EXPECT_EQ(Layer.FileSize(TEXT("C:/Game/Missing.txt")), -1);
-}
-
 TEST_F(FSuperPlatformFileTest, TimesAndStatAnswerFromTheDiskFirstThenFromTheLowerLayer)
 {
 	EXPECT_EQ(Layer.GetTimeStamp(TEXT("C:/Game/Lower.txt")).GetTicks(), LowerTicks);
@@ -78,14 +67,6 @@ TEST_F(FSuperPlatformFileTest, TimesAndStatAnswerFromTheDiskFirstThenFromTheLowe
 	const FFileStatData BothStat = Layer.GetStatData(TEXT("C:/Game/Both.txt"));
 	EXPECT_EQ(BothStat.FileSize, 3);
 	EXPECT_FALSE(BothStat.bIsReadOnly);
-}
-
-TEST_F(FSuperPlatformFileTest, DirectoryExistsOnEitherLayer)
-{
-	Lower.AddDirectory(TEXT("C:/Packed"));
-	EXPECT_TRUE(Layer.DirectoryExists(TEXT("C:/Game")));
-	EXPECT_TRUE(Layer.DirectoryExists(TEXT("C:/Packed")));
-	EXPECT_FALSE(Layer.DirectoryExists(TEXT("C:/Nowhere")));
 }
 
 TEST_F(FSuperPlatformFileTest, ReadsComeFromTheLayerThatHoldsTheFileAndTheDiskWinsATie)
@@ -143,14 +124,6 @@ TEST_F(FSuperPlatformFileTest, FileChangesAndNewDirectoriesReachOnlyTheDisk)
 	EXPECT_TRUE(Layer.CreateDirectory(TEXT("C:/Game/Made")));
 	EXPECT_TRUE(Exists("C:/Game/Made"));
 	EXPECT_FALSE(Lower.DirectoryExists(TEXT("C:/Game/Made")));
-}
-
-TEST_F(FSuperPlatformFileTest, DeletingADirectoryThatIsOnlyOnDiskIsHandedToTheLowerLayer)
-{
-	ASSERT_TRUE(IPlatformFile::GetPlatformPhysical().CreateDirectory(TEXT("C:/Game/Empty")));
-	EXPECT_FALSE(Layer.DeleteDirectory(TEXT("C:/Game/Empty")));
-	EXPECT_TRUE(Exists("C:/Game/Empty"));
-	EXPECT_EQ(Lower.DeletedDirectoryRequests, (std::vector<std::wstring>{L"C:/Game/Empty"}));
 }
 
 TEST_F(FSuperPlatformFileTest, DirectoryListingsShowOnlyTheLowerLayer)

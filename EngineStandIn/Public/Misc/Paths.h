@@ -12,6 +12,7 @@ public:
 	static FString RootDir();
 	static FString ProjectDir();
 	static FString ProjectPluginsDir();
+	static FString ProjectIntermediateDir();
 	static FString GetProjectFilePath();
 
 	static FString ConvertRelativePathToFull(const FString& InPath);

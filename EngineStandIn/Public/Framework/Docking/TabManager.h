@@ -102,6 +102,7 @@ public:
 
 	// Brings a live tab to the front, or spawns it; null when nothing could be spawned.
 	TSharedPtr<SDockTab> TryInvokeTab(const FTabId& TabId);
+	TSharedPtr<SDockTab> FindExistingLiveTab(const FTabId& TabId) const;
 
 	// Whether a spawner is registered for the tab.
 	bool HasTabSpawner(FName TabId) const;
