@@ -64,6 +64,16 @@ TEST_F(FSuperPlatformFileTest, FileExistsAndSizeAnswerFromTheDiskFirstThenFromTh
 	EXPECT_EQ(Layer.FileSize(TEXT("C:/Game/Missing.txt")), -1);
 }
 
+TEST_F(FSuperPlatformFileTest, AnEmptyFileOnDiskHasSizeZeroThoughTheLowerLayerHoldsOneOfTheSameName)
+{
+	WriteFile("C:/Game/Empty.txt", "");
+	Lower.AddFile(TEXT("C:/Game/Empty.txt"), "lower, not empty");
+
+	EXPECT_EQ(Layer.FileSize(TEXT("C:/Game/Empty.txt")), 0);
+	EXPECT_EQ(Layer.GetStatData(TEXT("C:/Game/Empty.txt")).FileSize, 0);
+	EXPECT_EQ(ReadAll(Layer.OpenRead(TEXT("C:/Game/Empty.txt"))), "");
+}
+
 TEST_F(FSuperPlatformFileTest, TimesAndStatAnswerFromTheDiskFirstThenFromTheLowerLayer)
 {
 	EXPECT_EQ(Layer.GetTimeStamp(TEXT("C:/Game/Lower.txt")).GetTicks(), LowerTicks);
