@@ -1,5 +1,6 @@
 #include "CreateModTest.h"
 #include "Framework/Docking/TabManager.h"
+#include "StandIn/WindowMenu.h"
 #include "Widgets/Docking/SDockTab.h"
 
 class FCreateModTabTest : public FCreateModTest
@@ -45,6 +46,7 @@ TEST_F(FCreateModTabTest, TheTabIsRegisteredHiddenUnderItsTitle)
 	EXPECT_EQ(StandIn::ToUtf8(TabRecords()[0]->DisplayName.ToString()), "Create New Mod");
 	EXPECT_EQ(TabRecords()[0]->WindowSize.X, 800.0f);
 	EXPECT_EQ(TabRecords()[0]->WindowSize.Y, 600.0f);
+	EXPECT_TRUE(StandIn::WindowMenuTabs().empty());
 }
 
 TEST_F(FCreateModTabTest, TheTabsTitleIsLocalised)
