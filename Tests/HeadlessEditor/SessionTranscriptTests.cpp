@@ -80,27 +80,27 @@ protected:
 	fs::path Root;
 };
 
-TEST_F(FSessionTranscriptTest, Menus)
+TEST_F(FSessionTranscriptTest, MenusListsEveryMenuInTurn)
 {
 	EXPECT_EQ(Session({"menus"}), Expected("menus.txt"));
 }
 
-TEST_F(FSessionTranscriptTest, CreateFromTwoTemplates)
+TEST_F(FSessionTranscriptTest, CreateFromTwoTemplatesOpensTheTabAndAnnouncesTheMod)
 {
 	EXPECT_EQ(Session({"create", "Northline", "--template", "Route", "--template", "ServiceMode"}), Expected("create.txt"));
 }
 
-TEST_F(FSessionTranscriptTest, CookDeclinedAtTheSavePrompt)
+TEST_F(FSessionTranscriptTest, CookDeclinedAtTheSavePromptListsTheDropDownPromptsAndRefuses)
 {
 	EXPECT_EQ(WithoutTaskProgress(Session({"cook", "CalverlyBranchLine", "--dirty", "/CalverlyBranchLine/Maps/Main", "--save", "none"})), Expected("cook-declined.txt"));
 }
 
-TEST_F(FSessionTranscriptTest, CookSavedAtTheSavePrompt)
+TEST_F(FSessionTranscriptTest, CookSavedAtTheSavePromptListsTheDropDownPromptsAndStartsTheTask)
 {
 	EXPECT_EQ(WithoutTaskProgress(Session({"cook", "CalverlyBranchLine", "--dirty", "/CalverlyBranchLine/Maps/Main", "--save", "all"})), Expected("cook-saved.txt"));
 }
 
-TEST_F(FSessionTranscriptTest, DistributeThreePluginsTwoOfThemOriginal)
+TEST_F(FSessionTranscriptTest, DistributeThreePluginsStagesListsAndPacksInOrder)
 {
 	EXPECT_EQ(Session({"distribute", "--calverly5", "--plugin", "CalverlyBranchLine", "--original", "--dlcs", "Moravane_Base, Calverly5_Signals", "--plugin", "ThirdPartyLocos", "--plugin", "ExpressTimetable", "--original"}), Expected("distribute.txt"));
 }
