@@ -53,6 +53,18 @@ namespace StandInPaths
 	}
 }
 
+// The binaries folder is always <root>/Engine/Binaries/Win64/, and the engine gives its own folder relative
+// to it.
+FString FPaths::EngineDir()
+{
+	return TEXT("../../../Engine/");
+}
+
+FString FPaths::RootDir()
+{
+	return ConvertRelativePathToFull(TEXT("../../../"));
+}
+
 FString FPaths::ProjectDir()
 {
 	return StandInPaths::RelativeToBaseDir(ConvertRelativePathToFull(ProjectFolderOf(GetProjectFilePath())));

@@ -1,3 +1,4 @@
+#include "StandInBackgroundTasks.h"
 #include "StandInModules.h"
 #include "StandInWorld.h"
 #include "StandInPackages.h"
@@ -46,6 +47,7 @@ namespace StandIn
 		}
 		State.World = World;
 		State.BaseDirStorage = World.BaseDir;
+		StandInBackgroundTasks::Forget();
 		StandInJournal::Clear();
 		StandInPlugins::Forget();
 		StandInPlugins::ForgetMountPoints();
