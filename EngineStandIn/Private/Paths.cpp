@@ -77,7 +77,7 @@ FString FPaths::ProjectPluginsDir()
 
 bool FPaths::IsRelative(const FString& InPath)
 {
-	const bool bIsRooted = InPath.StartsWith(TEXT("\\"), ESearchCase::CaseSensitive) || InPath.StartsWith(TEXT("/"), ESearchCase::CaseSensitive) || (InPath.Len() >= 2 && iswalpha(InPath[0]) && InPath[1] == L':');
+	const bool bIsRooted = InPath.StartsWith(TEXT("\\"), ESearchCase::CaseSensitive) || InPath.StartsWith(TEXT("/"), ESearchCase::CaseSensitive) || (InPath.Len() >= 2 && FChar::IsAlpha(InPath[0]) && InPath[1] == L':');
 	return !bIsRooted;
 }
 

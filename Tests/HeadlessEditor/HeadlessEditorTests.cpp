@@ -280,6 +280,28 @@ TEST_F(FHeadlessEditorTest, CreateMakesTheModFromTwoTemplatesThroughTheTabsWizar
 	EXPECT_NE(ReadAll(Drive("Work/Moravane/Plugins/Northline/Northline.uplugin")).find("\"Category\": \"DLC\""), std::string::npos);
 }
 
+TEST_F(FHeadlessEditorTest, CreateFindsTheWorldWhateverCaseTheLaunchFolderAndProjectAreNamedIn)
+{
+	CopyProjectData();
+
+	const FRun Run = this->Run({"--root", Sandbox().string(), "--launch-dir", "C:/work/", "--project", "C:/WORK/moravane/MORAVANE.uproject", "create", "Northline"});
+
+	EXPECT_EQ(Run.ExitCode, 0) << Run.Err;
+	EXPECT_NE(Run.Out.find("Notification: 'Northline' was created successfully."), std::string::npos) << Run.Out;
+	EXPECT_TRUE(fs::exists(Drive("Work/Moravane/Plugins/Northline/Northline.uplugin")));
+	EXPECT_FALSE(fs::exists(Drive("WORK")));
+}
+
+TEST_F(FHeadlessEditorTest, AProjectAboveTheDriveRootIsOnTheDriveRootAndNothingIsWrittenOutsideTheRoot)
+{
+	CopyProjectData();
+
+	Run({"--root", Sandbox().string(), "--project", "C:/../../elsewhere/P/P.uproject", "create", "Northline"});
+
+	EXPECT_TRUE(fs::is_directory(Drive("elsewhere/P/Plugins")));
+	EXPECT_FALSE(fs::exists(Root / "elsewhere"));
+}
+
 TEST_F(FHeadlessEditorTest, CreateWithANameTheWizardRefusesExitsWithTwoAndLeavesNothingOnDisk)
 {
 	CopyProjectData();
