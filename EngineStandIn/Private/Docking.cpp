@@ -1,6 +1,7 @@
 #include "Framework/Docking/TabManager.h"
 #include "StandIn/Journal.h"
 #include "StandIn/Records/TabRecord.h"
+#include "StandIn/WindowMenu.h"
 #include "StandInWorld.h"
 #include "Widgets/Docking/SDockTab.h"
 #include <memory>
@@ -94,7 +95,26 @@ namespace StandIn
 		}
 
 		static TSharedRef<FGlobalTabmanager> MakeGlobal() { return MakeShareable(new FGlobalTabmanager()); }
+
+		static std::vector<FWindowMenuTab> ListedTabs()
+		{
+			std::vector<FWindowMenuTab> Listed;
+			for (const std::shared_ptr<FTabSpawnerEntry>& Spawner : State().Spawners)
+			{
+				const ETabSpawnerMenuType::Type MenuType = Spawner->MenuType.Get();
+				if (MenuType != ETabSpawnerMenuType::Hidden)
+				{
+					Listed.push_back(FWindowMenuTab{Spawner->DisplayName, MenuType == ETabSpawnerMenuType::Enabled});
+				}
+			}
+			return Listed;
+		}
 	};
+
+	std::vector<FWindowMenuTab> WindowMenuTabs()
+	{
+		return FTabManagerAccess::ListedTabs();
+	}
 }
 
 namespace StandInTabs

@@ -40,6 +40,21 @@ TEST_F(FCookTest, TaskTakesTheLaunchFolderOnAnotherDriveAsTheEditorsRoot)
 	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->CommandLine), "BuildDLC -Project=\"C:/Work/Moravane/Moravane.uproject\" -PluginPath=\"C:/Work/Moravane/Mods/Tram/Tram.uplugin\" -ue4exe=\"E:/Launch/\"Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe -nocompile -TargetPlatform=WindowsNoEditor -dlcName=\"Tram\",\"Tram\" ");
 }
 
+TEST_F(FCookTest, TaskNameIsLocalised)
+{
+	StandIn::FWorld World = DefaultWorld();
+	World.Translations[{"UGCPackager", "UGCEditor_PackagePluginTaskName"}] = "Vaření {0}";
+	ResetWorld(World);
+	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
+	StandIn::DiscoverPlugins();
+
+	ASSERT_TRUE(StandIn::ClickMenuEntry(OpenDropDown(), TEXT("MyRoute")));
+
+	ASSERT_EQ(UatTasks().size(), 1u);
+	EXPECT_EQ(StandIn::ToUtf8(UatTasks()[0]->TaskName.ToString()), "Vaření MyRoute");
+	EXPECT_EQ(StandIn::ToUtf8(UatTasks()[0]->TaskShortName.ToString()), "Vaření MyRoute");
+}
+
 TEST_F(FCookTest, EachClickStartsATaskOfItsOwn)
 {
 	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");

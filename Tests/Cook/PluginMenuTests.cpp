@@ -64,6 +64,14 @@ TEST_F(FCookTest, DropDownEntryShowsThePluginsNameAndFolderUnderTheShareHeadingW
 	EXPECT_EQ(Entries[1].IconBrush, FStyleDefaults::GetNoBrush());
 }
 
+TEST_F(FCookTest, ChoosingAPluginClosesTheDropDown)
+{
+	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
+	StandIn::DiscoverPlugins();
+
+	EXPECT_TRUE(StandIn::MenuEntries(OpenDropDown()).at(1).bClosesMenuAfterSelection);
+}
+
 TEST_F(FCookTest, DropDownRegistersOneCommandPerPluginWithoutAnIconOfItsOwn)
 {
 	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");

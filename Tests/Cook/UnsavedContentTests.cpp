@@ -87,6 +87,21 @@ TEST_F(FUnsavedContentTest, MapOfThePluginLeftUnsavedShowsTheMessageAndCooksNoth
 	EXPECT_EQ(Boxes[0]->Type, EAppMsgType::Ok);
 }
 
+TEST_F(FUnsavedContentTest, TheUnsavedContentMessageIsLocalised)
+{
+	StandIn::FWorld World = DefaultWorld();
+	World.DirtyPackages = {{TEXT("/MyRoute/Data/Track"), false}};
+	World.SavePromptAnswer = StandIn::ESavePromptAnswer::DontSave;
+	World.Translations[{"UGCPackager", "PackageUGCError_UnsavedContent"}] = "Před sdílením uložte všechny assety v {0}.";
+	ResetWorld(World);
+	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
+	StandIn::DiscoverPlugins();
+
+	Cook(TEXT("MyRoute"));
+
+	EXPECT_EQ(MessageBoxTexts(), std::vector<std::string>({"Před sdílením uložte všechny assety v MyRoute."}));
+}
+
 TEST_F(FUnsavedContentTest, CancelledPromptShowsTheMessageAndCooksNothing)
 {
 	StartEditor({{TEXT("/MyRoute/Data/Track"), false}}, StandIn::ESavePromptAnswer::Cancel);
@@ -112,6 +127,23 @@ TEST_F(FUnsavedContentTest, UnsavedPackagesOfOtherPluginsAndTheGameDoNotPrompt)
 TEST_F(FUnsavedContentTest, UnsavedPackageOfAPluginWhoseFolderNameExtendsThisOnesBlocksTheCook)
 {
 	StartEditor({{TEXT("/Route2/Data/Track"), false}}, StandIn::ESavePromptAnswer::DontSave);
+
+	Cook(TEXT("Route"));
+
+	EXPECT_EQ(SavePrompts().size(), 1u);
+	EXPECT_TRUE(UatTasks().empty());
+	EXPECT_EQ(MessageBoxTexts(), std::vector<std::string>({"You must save all assets in Route before you can share it."}));
+}
+
+TEST_F(FUnsavedContentTest, UnsavedPackageWhoseFileBeginsWithThePluginsFolderInOtherLetterCaseBlocksTheCook)
+{
+	StandIn::FWorld World = DefaultWorld();
+	World.DirtyPackages = {{TEXT("/Shunting/Data/Track"), false}};
+	World.SavePromptAnswer = StandIn::ESavePromptAnswer::DontSave;
+	ResetWorld(World);
+	WritePlugin("C:/Work/Moravane/Plugins/Route/Route.uplugin");
+	WritePlugin("C:/Work/Moravane/Plugins/ROUTE_Yard/Shunting.uplugin");
+	StandIn::DiscoverPlugins();
 
 	Cook(TEXT("Route"));
 

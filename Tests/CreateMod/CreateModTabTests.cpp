@@ -1,9 +1,18 @@
 #include "CreateModTest.h"
 #include "Framework/Docking/TabManager.h"
+#include "StandIn/WindowMenu.h"
 #include "Widgets/Docking/SDockTab.h"
 
 class FCreateModTabTest : public FCreateModTest
 {
+protected:
+	// The active culture translates the localised text of this namespace and key.
+	void Translate(const std::string& Namespace, const std::string& Key, const std::string& Translation)
+	{
+		StandIn::FWorld World = StandIn::GetWorld();
+		World.Translations[{Namespace, Key}] = Translation;
+		ResetWorld(World);
+	}
 };
 
 TEST_F(FCreateModTabTest, TheFirstCommandOpensTheTabInANewWindowOfEightHundredBySixHundred)
@@ -37,6 +46,28 @@ TEST_F(FCreateModTabTest, TheTabIsRegisteredHiddenUnderItsTitle)
 	EXPECT_EQ(StandIn::ToUtf8(TabRecords()[0]->DisplayName.ToString()), "Create New Mod");
 	EXPECT_EQ(TabRecords()[0]->WindowSize.X, 800.0f);
 	EXPECT_EQ(TabRecords()[0]->WindowSize.Y, 600.0f);
+	EXPECT_TRUE(StandIn::WindowMenuTabs().empty());
+}
+
+TEST_F(FCreateModTabTest, TheTabsTitleIsLocalised)
+{
+	Translate("FUGCCreator", "NewUGCTabHeader", "Nový mod");
+	FUGCCreator Creator;
+	Creator.OpenCreateModTab(false);
+
+	EXPECT_EQ(StandIn::JournalLines(), std::vector<std::string>({"Tab: Nový mod (UGCPluginCreator) 800x600"}));
+}
+
+TEST_F(FCreateModTabTest, ThePluginBrowserMessageIsLocalised)
+{
+	Translate("FUGCCreator", "PluginBrowserDisabled", "Bez prohlížeče pluginů nelze vytvořit mod.");
+	StandIn::FWorld World = StandIn::GetWorld();
+	World.bPluginBrowserLoaded = false;
+	ResetWorld(World);
+	FUGCCreator Creator;
+	Creator.OpenCreateModTab(false);
+
+	EXPECT_EQ(MessageBoxTexts(), std::vector<std::string>({"Bez prohlížeče pluginů nelze vytvořit mod."}));
 }
 
 TEST_F(FCreateModTabTest, TheTabIsGoneOnceTheCreatorIs)

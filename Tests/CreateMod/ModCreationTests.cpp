@@ -98,8 +98,9 @@ TEST_F(FModCreationTest, ChosenTemplatesAreCopiedAfterTheBaseTemplateLaterOnesRe
 	EXPECT_EQ(ReadFile("C:/Work/Moravane/Plugins/Northline/Content/Northline/Briefing/README.txt"), RepositoryFile("Templates/Scenario/Content/PLUGIN_NAME/Briefing/README.txt"));
 }
 
-TEST_F(FModCreationTest, TheServiceModeTemplateIsChosenByItsListedName)
+TEST_F(FModCreationTest, TheServiceModeTemplateIsChosenByItsListedNameAndItsCodeFoundInTheFolderWithTheSpace)
 {
+	WriteFile("C:/Work/Moravane/Templates/Service Mode/Source/PLUGIN_NAME/PLUGIN_NAME.Build.cs", "public class PLUGIN_NAME : ModuleRules {}\n");
 	OpenWizard();
 	EXPECT_FALSE(StandIn::SelectListRow(TemplateList.ToSharedRef(), TEXT("Service Mode")));
 	ASSERT_TRUE(StandIn::SelectListRow(TemplateList.ToSharedRef(), TEXT("ServiceMode")));
@@ -108,6 +109,22 @@ TEST_F(FModCreationTest, TheServiceModeTemplateIsChosenByItsListedName)
 
 	EXPECT_TRUE(Exists("C:/Work/Moravane/Plugins/Timetable1/Content/Timetable1/Timetables/README.txt"));
 	EXPECT_TRUE(Exists("C:/Work/Moravane/Plugins/Timetable1/Content/Timetable1/Consists/README.txt"));
+	EXPECT_TRUE(Exists("C:/Work/Moravane/Plugins/Timetable1/Source/Timetable1/Timetable1.Build.cs"));
+	EXPECT_TRUE(Descriptor("Timetable1").contains("Modules"));
+}
+
+TEST_F(FModCreationTest, ATemplateChosenInAClosedTabDoesNotReachTheNextTabsMod)
+{
+	OpenWizard();
+	ASSERT_TRUE(StandIn::SelectListRow(TemplateList.ToSharedRef(), TEXT("Route")));
+	TabRecords()[0]->Tab->RequestCloseTab();
+	Creator->OpenCreateModTab(false);
+	ASSERT_EQ(TabRecords().size(), 3u);
+	const TSharedRef<SWidget> SecondTab = TabRecords()[2]->Tab;
+	StandIn::CommitText(FindWidgets(SecondTab, "SEditableTextBox").at(0), TEXT("PlainMod"));
+	StandIn::ClickButton(FindWidgets(SecondTab, "SButton").at(0));
+
+	EXPECT_EQ(FilesBelow("C:/Work/Moravane/Plugins/PlainMod"), std::vector<std::string>({"Config/DefaultPlainMod.ini", "Content/README.txt", "PlainMod.uplugin", "README.txt", "Resources/Icon128.png"}));
 }
 
 TEST_F(FModCreationTest, PluginNameIsReplacedInNamesAndInsideCodeFilesOnly)

@@ -1,5 +1,6 @@
 #include "../PlatformFileLayer/LowerLayerDouble.h"
 #include "Logging/LogScopedVerbosityOverride.h"
+#include "Misc/Paths.h"
 #include "ModuleShellTest.h"
 #include "StandIn/Records/LogRecord.h"
 #include <memory>
@@ -63,6 +64,20 @@ TEST_F(FModuleShellTest, NeitherWarningShowsWhenLogTempIsQuieterThanWarningAndTh
 
 	EXPECT_TRUE(StandIn::JournalRecords<StandIn::FLogRecord>().empty());
 	EXPECT_EQ(TopLayerName(), "SuperPlatform");
+}
+
+TEST_F(FModuleShellTest, StartUpLaysItsLayerOverTheLayerThatWasOnTopSoThatLayersFilesStayInSight)
+{
+	FLowerLayerDouble Previous;
+	Previous.AddFile(TEXT("C:/Work/Moravane/Content/Paks/Packed.uasset"), "packed");
+	FPlatformFileManager::Get().SetPlatformFile(Previous);
+	const std::unique_ptr<IModuleInterface> Module(InitializeModule());
+
+	Module->StartupModule();
+
+	EXPECT_EQ(TopLayerName(), "SuperPlatform");
+	EXPECT_TRUE(FPaths::FileExists(TEXT("C:/Work/Moravane/Content/Paks/Packed.uasset")));
+	Module->ShutdownModule();
 }
 
 TEST_F(FModuleShellTest, ShutDownRemovesStyleAndCommandsAndLeavesThePhysicalLayerOnTopNotTheOneBefore)

@@ -53,6 +53,16 @@ TEST_F(FSandboxTest, SuperPlatformLayerDoesNotInitializeWithoutAnInnerLayer)
 	EXPECT_FALSE(Layer.Initialize(nullptr, TEXT("")));
 }
 
+TEST_F(FSuperPlatformFileTest, AnEmptyFileOnDiskHasSizeZeroThoughTheLowerLayerHoldsOneOfTheSameName)
+{
+	WriteFile("C:/Game/Empty.txt", "");
+	Lower.AddFile(TEXT("C:/Game/Empty.txt"), "lower, not empty");
+
+	EXPECT_EQ(Layer.FileSize(TEXT("C:/Game/Empty.txt")), 0);
+	EXPECT_EQ(Layer.GetStatData(TEXT("C:/Game/Empty.txt")).FileSize, 0);
+	EXPECT_EQ(ReadAll(Layer.OpenRead(TEXT("C:/Game/Empty.txt"))), "");
+}
+
 TEST_F(FSuperPlatformFileTest, TimesAndStatAnswerFromTheDiskFirstThenFromTheLowerLayer)
 {
 	EXPECT_EQ(Layer.GetTimeStamp(TEXT("C:/Game/Lower.txt")).GetTicks(), LowerTicks);

@@ -150,6 +150,18 @@ TEST_F(FSandboxTest, MenuEntryShowsItsOverridesOrElseTheCommandsTextsAndIcon)
 	EXPECT_EQ(Entries[1].IconBrush, FStyleDefaults::GetNoBrush());
 }
 
+TEST_F(FSandboxTest, MenuEntryClosesItsMenuWhenTheMenuWasBuiltToCloseAfterASelection)
+{
+	const TSharedPtr<FUICommandInfo> Command = MakeCommand(TEXT("Entry"), TEXT("Entry"));
+	FMenuBuilder Closing(true, MakeShared<FUICommandList>());
+	Closing.AddMenuEntry(Command);
+	FMenuBuilder StayingOpen(false, MakeShared<FUICommandList>());
+	StayingOpen.AddMenuEntry(Command);
+
+	EXPECT_TRUE(StandIn::MenuEntries(Closing.MakeWidget()).at(0).bClosesMenuAfterSelection);
+	EXPECT_FALSE(StandIn::MenuEntries(StayingOpen.MakeWidget()).at(0).bClosesMenuAfterSelection);
+}
+
 TEST_F(FSandboxTest, ClickedMenuEntryRunsTheActionOfTheListItWasAddedWith)
 {
 	const TSharedPtr<FUICommandInfo> Command = MakeCommand(TEXT("Entry"), TEXT("Entry"));

@@ -1,4 +1,6 @@
+#include "Framework/Docking/TabManager.h"
 #include "SandboxTest.h"
+#include "StandIn/WindowMenu.h"
 #include "Styling/CoreStyle.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
@@ -188,4 +190,19 @@ TEST_F(FSandboxTest, CoreStyleFindsButtonStylesWhateverTheCaseAndFallsBackToTheD
 TEST_F(FSandboxTest, AButtonWithoutAStyleTakesTheCoreStylesButton)
 {
 	EXPECT_EQ(StandIn::Paint(SNew(SButton)).ButtonStyle, &FCoreStyle::Get().GetWidgetStyle<FButtonStyle>("Button"));
+}
+
+TEST_F(FSandboxTest, WindowMenuListsNomadTabsUnlessHiddenAndGreysOutDisabledOnes)
+{
+	FGlobalTabmanager::Get()->RegisterNomadTabSpawner(TEXT("Listed"), FOnSpawnTab()).SetDisplayName(FText::FromString(TEXT("Listed")));
+	FGlobalTabmanager::Get()->RegisterNomadTabSpawner(TEXT("Hidden"), FOnSpawnTab()).SetDisplayName(FText::FromString(TEXT("Hidden"))).SetMenuType(ETabSpawnerMenuType::Hidden);
+	FGlobalTabmanager::Get()->RegisterNomadTabSpawner(TEXT("Greyed"), FOnSpawnTab()).SetDisplayName(FText::FromString(TEXT("Greyed"))).SetMenuType(ETabSpawnerMenuType::Disabled);
+
+	const std::vector<StandIn::FWindowMenuTab> Tabs = StandIn::WindowMenuTabs();
+
+	ASSERT_EQ(Tabs.size(), 2u);
+	EXPECT_EQ(StandIn::ToUtf8(Tabs[0].DisplayName.ToString()), "Listed");
+	EXPECT_TRUE(Tabs[0].bIsEnabled);
+	EXPECT_EQ(StandIn::ToUtf8(Tabs[1].DisplayName.ToString()), "Greyed");
+	EXPECT_FALSE(Tabs[1].bIsEnabled);
 }

@@ -31,7 +31,12 @@ TEST(StandInStrings, PrintfFormatsTextAndIntegersAsTheEngineFormatterDoes)
 	EXPECT_EQ(Utf8(FString::Printf(TEXT("[%s] %d%%"), *Name, 42)), "[Route] 42%");
 	EXPECT_EQ(Utf8(FString::Printf(TEXT("%d|%i|%5d|%-3d|"), -7, 8, 9, 1)), "-7|8|    9|1  |");
 	EXPECT_EQ(Utf8(FString::Printf(TEXT("."))), ".");
+}
+
+TEST(StandInStrings, PrintfTakesStringArgumentsAsTheyStandBackslashesAndAll)
+{
 	EXPECT_EQ(Utf8(FString::Printf(TEXT("%s"), TEXT("\"q\" \\ %d"))), "\"q\" \\ %d") << "arguments are not escaped or re-read";
+	EXPECT_EQ(Utf8(FString::Printf(TEXT("%s|%-9s|"), TEXT("\\\\srv\\a"), TEXT("\\\\srv\\b"))), "\\\\srv\\a|\\\\srv\\b  |");
 }
 
 TEST(StandInStrings, ParseIntoArraySplitsOnTheWholeDelimiterWithoutTrimming)

@@ -86,7 +86,7 @@ namespace StandIn
 		// style defaults' no-brush) draws nothing.
 		const FSlateBrush* IconBrush = nullptr;
 		// A sub-menu's: whether it opens on a click rather than on hover, and whether choosing in it closes
-		// the whole menu.
+		// the whole menu. An entry's: whether choosing it closes its menu, as the menu was built.
 		bool bOpensOnClick = false;
 		bool bClosesMenuAfterSelection = false;
 		// A combo button's: whether its action has an execute bound (which a click never runs: the action

@@ -14,7 +14,7 @@ namespace StandIn
 			std::vector<FMenuEntry> Entries;
 			for (const FMultiBlock* Block : ShownBlocks(Menu))
 			{
-				Entries.push_back(Describe(*Block));
+				Entries.push_back(Describe(*Block, *As(Menu).MultiBox));
 			}
 			return Entries;
 		}
@@ -84,7 +84,7 @@ namespace StandIn
 			return Blocks;
 		}
 
-		static FMenuEntry Describe(const FMultiBlock& Block)
+		static FMenuEntry Describe(const FMultiBlock& Block, const FMultiBox& MultiBox)
 		{
 			FMenuEntry Entry;
 			switch (Block.Kind)
@@ -116,6 +116,8 @@ namespace StandIn
 				break;
 			default:
 				Entry.Kind = FMenuEntry::EKind::Entry;
+				// The engine's entry dismisses its menu on a click when the menu was built to close so.
+				Entry.bClosesMenuAfterSelection = MultiBox.bShouldCloseWindowAfterMenuSelection;
 				break;
 			}
 			const bool bHasCommand = Block.Command.IsValid();

@@ -20,6 +20,8 @@ void SNewPluginWizard::Construct(const FArguments& Args, TSharedPtr<SDockTab> In
 	OwnerTab = InOwnerTab;
 	PluginWizardDefinition = InPluginWizardDefinition;
 	check(PluginWizardDefinition.IsValid());
+	// A new wizard starts with nothing chosen, whatever the definition held before.
+	PluginWizardDefinition->ClearTemplateSelection();
 
 	// New plugins go to the project's folder, made absolute; mods to its Mods folder.
 	PluginFolderPath = FPaths::ConvertRelativePathToFull(PluginWizardDefinition->IsMod() ? FPaths::ProjectDir() + TEXT("Mods/") : FPaths::ProjectPluginsDir());
