@@ -8,7 +8,11 @@
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)
+# The tool sits beside the repository (../shared/tools), on PATH, or where UE_HEADER_CHECK says.
 header_check=${UE_HEADER_CHECK:-$root/../shared/tools/ue-header-check}
+if [ ! -x "$header_check" ] && command -v ue-header-check > /dev/null; then
+	header_check=$(command -v ue-header-check)
+fi
 if [ -z "${UE_ENGINE_DIR:-}" ] || [ ! -d "$UE_ENGINE_DIR" ]; then
 	echo "check-standin-shape: skipped: UE_ENGINE_DIR does not name an extracted engine tree"
 	exit 77
