@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 #include "Commands.h"
 #include "Modules/ModuleManager.h"
+#include "StandIn/BackgroundTasks.h"
 #include "StandIn/Records/LogRecord.h"
 #include "StandIn/Records/MessageBoxRecord.h"
 #include "StandIn/Records/NotificationRecord.h"
@@ -161,9 +162,14 @@ int main(int argc, char** argv)
 	});
 	StandIn::DiscoverPlugins();
 
-	// As the engine loads a module: by name, through its exported entry point, then its start-up.
+	// As the engine starts its modules: the project's (UGCEditor, as the game project lists it) before the
+	// plugins'; each by name, through its exported entry point, then its start-up. A project file that does
+	// not list the module still gets it, since the session is about it.
+	StandIn::LoadStartupModules();
 	FModuleManager::Get().LoadModuleChecked(TEXT("UGCEditor"));
 	const int ExitCode = RunCommand(CommandLine);
+	// A task started in the session ends in it.
+	StandIn::WaitForBackgroundTasks();
 	// As at the editor's exit: shut down, then destroyed.
 	FModuleManager::Get().UnloadModule(TEXT("UGCEditor"), true);
 	return ExitCode;

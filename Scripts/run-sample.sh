@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # The main job: installs what is missing, builds the headless editor, and on a fresh copy of the sample
-# sandbox runs one session of each command (the menus, a new mod from two templates, a cook declined at the
-# save prompt and then saved, a distribution through the paking dialog); then shows what was left on disk.
+# sandbox runs one session of each command (the menus, a new mod from two templates cooked by the sample's
+# automation tool, a cook declined at the save prompt and then saved, a distribution of the new mod and the
+# sample's cooked plugins through the paking dialog); then shows what was left on disk.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -29,10 +30,17 @@ run() {
 }
 
 run "$editor" --root "$sandbox" menus
+# A modder's whole path: a new mod, a map made in it, the mod cooked by the sample's automation tool
+# (Engine/Build/BatchFiles/RunUAT.bat), then distributed with the sample's other cooked plugins.
 run "$editor" --root "$sandbox" create Northline --template Route --template ServiceMode
+echo
+echo "(The modder saves a map in the new mod: Plugins/Northline/Content/Northline/Maps/Main.umap.)"
+echo "source map of Northline (stand-in bytes)" > "$sandbox/C/Work/Moravane/Plugins/Northline/Content/Northline/Maps/Main.umap"
+run "$editor" --root "$sandbox" cook Northline
 run "$editor" --root "$sandbox" cook CalverlyBranchLine --dirty /CalverlyBranchLine/Maps/Main --save none
 run "$editor" --root "$sandbox" cook CalverlyBranchLine --dirty /CalverlyBranchLine/Maps/Main --save all
 run "$editor" --root "$sandbox" distribute --calverly5 \
+	--plugin Northline --original \
 	--plugin CalverlyBranchLine --original --dlcs "Moravane_Base, Calverly5_Signals" \
 	--plugin ExpressTimetable --original \
 	--plugin ThirdPartyLocos

@@ -1,54 +1,26 @@
 #pragma once
 
 // Shared by the stand-in engine and its helper programs (cmd.exe, the recording tool): a Windows drive
-// path "X:/rest" names the host file "<drive root>/X/rest". Everything else is left to the caller.
-#include <cctype>
-#include <cstdlib>
+// path "X:/rest" names a host file below "<drive root>/X", found there as NTFS finds it.
 #include <string>
 
 namespace WindowsDrivePath
 {
 	// The environment variable through which child programs learn the drive root.
-	inline const char* DriveRootVariable()
-	{
-		return "UGC_DRIVE_ROOT";
-	}
+	const char* DriveRootVariable();
 
-	inline bool HasDriveLetter(const std::string& Path)
-	{
-		return Path.size() >= 2 && std::isalpha((unsigned char)Path[0]) && Path[1] == ':';
-	}
+	bool HasDriveLetter(const std::string& Path);
 
-	inline std::string WithForwardSlashes(std::string Path)
-	{
-		for (char& Char : Path)
-		{
-			if (Char == '\\')
-			{
-				Char = '/';
-			}
-		}
-		return Path;
-	}
+	std::string WithForwardSlashes(std::string Path);
 
-	// "C:/a\b" -> "<root>/C/a/b"; paths without a drive letter only get their separators turned.
-	inline std::string ToHost(const std::string& DriveRoot, const std::string& Path)
-	{
-		if (!HasDriveLetter(Path))
-		{
-			return WithForwardSlashes(Path);
-		}
-		std::string Rest = WithForwardSlashes(Path.substr(2));
-		if (!Rest.empty() && Rest[0] != '/')
-		{
-			Rest = "/" + Rest;
-		}
-		return DriveRoot + "/" + (char)std::toupper((unsigned char)Path[0]) + Rest;
-	}
+	// The host path of a drive path ("C:/a\b" -> "<root>/C/a/b"). As on Windows, '\' and '/' are alike,
+	// "." and ".." are taken away before anything is looked up ("C:/.." is "C:/"), and a name matches an
+	// existing entry whatever its case; what does not exist yet keeps the case it is given. Directory
+	// links are followed; one whose target lies outside the drive root, and every path that is not a
+	// drive path, gives an empty path, on which every host call fails as Windows fails on a missing one.
+	std::string ToHost(const std::string& DriveRoot, const std::string& WindowsPath);
 
-	inline std::string ToHostFromEnvironment(const std::string& Path)
-	{
-		const char* Root = std::getenv(DriveRootVariable());
-		return ToHost(Root ? Root : ".", Path);
-	}
+	// As ToHost, with the drive root from the environment; a relative path is taken from the current
+	// folder, which must then be inside the drive root.
+	std::string ToHostFromEnvironment(const std::string& Path);
 }

@@ -3,6 +3,7 @@
 #include "StandIn/Records/FileAttributesRecord.h"
 #include "StandIn/Records/LogRecord.h"
 #include "StandIn/Records/MessageBoxRecord.h"
+#include "StandIn/Records/PathRefusalRecord.h"
 #include "StandIn/Records/NotificationRecord.h"
 #include "StandIn/Records/TabRecord.h"
 #include "StandIn/Records/WindowRecord.h"
@@ -116,6 +117,11 @@ namespace StandIn
 	std::string FWindowRecord::Describe() const
 	{
 		return "Window: " + ToUtf8(Title.ToString()) + " " + std::to_string((int)ClientSize.X) + "x" + std::to_string((int)ClientSize.Y);
+	}
+
+	std::string FPathRefusalRecord::Describe() const
+	{
+		return "Refused outside the drive root: " + ToUtf8(Path);
 	}
 
 	std::string FFileAttributesRecord::Describe() const

@@ -1,6 +1,9 @@
 #include "Modules/ModuleManager.h"
+#include "Misc/FileHelper.h"
+#include "Misc/Paths.h"
 #include "StandIn/World.h"
 #include "StandInModules.h"
+#include <nlohmann/json.hpp>
 #include <utility>
 #include <vector>
 
@@ -94,11 +97,60 @@ namespace StandInModules
 		}
 	}
 
+	// The enabled plugins' modules of the Default phase: of the stand-in's, the PluginBrowser.
+	void LoadPluginModules()
+	{
+		FModuleManager::Get().LoadModule(TEXT("PluginBrowser"));
+	}
+
 	void StartEditorModules()
 	{
 		UnloadAll();
-		// Enabled plugins' editor modules are up before any other module starts, as at the editor's start.
-		FModuleManager::Get().LoadModule(TEXT("PluginBrowser"));
+		LoadPluginModules();
+	}
+
+	// The Default-phase modules the project file lists, in its order; a module without a phase is of that
+	// phase, as the engine's module descriptor reads it.
+	std::vector<FString> DefaultPhaseProjectModules()
+	{
+		std::vector<FString> Names;
+		FString Text;
+		if (!FFileHelper::LoadFileToString(Text, *FPaths::GetProjectFilePath()))
+		{
+			return Names;
+		}
+		const nlohmann::json Project = nlohmann::json::parse(StandIn::ToUtf8(Text), nullptr, false);
+		const auto Modules = Project.is_object() ? Project.find("Modules") : Project.end();
+		if (Modules == Project.end() || !Modules->is_array())
+		{
+			return Names;
+		}
+		for (const nlohmann::json& Module : *Modules)
+		{
+			if (!Module.is_object() || !Module.contains("Name") || !Module["Name"].is_string())
+			{
+				continue;
+			}
+			if (!Module.contains("LoadingPhase") || Module["LoadingPhase"] == "Default")
+			{
+				Names.push_back(StandIn::FromUtf8(Module["Name"].get<std::string>()));
+			}
+		}
+		return Names;
+	}
+}
+
+namespace StandIn
+{
+	void LoadStartupModules()
+	{
+		StandInModules::UnloadAll();
+		// Project modules of a phase start before the plugins' modules of that phase.
+		for (const FString& Name : StandInModules::DefaultPhaseProjectModules())
+		{
+			FModuleManager::Get().LoadModuleChecked(*Name);
+		}
+		StandInModules::LoadPluginModules();
 	}
 }
 

@@ -53,6 +53,18 @@ namespace StandInPaths
 	}
 }
 
+// The binaries folder is always <root>/Engine/Binaries/Win64/, and the engine gives its own folder relative
+// to it.
+FString FPaths::EngineDir()
+{
+	return TEXT("../../../Engine/");
+}
+
+FString FPaths::RootDir()
+{
+	return ConvertRelativePathToFull(TEXT("../../../"));
+}
+
 FString FPaths::ProjectDir()
 {
 	return StandInPaths::RelativeToBaseDir(ConvertRelativePathToFull(ProjectFolderOf(GetProjectFilePath())));
@@ -65,7 +77,7 @@ FString FPaths::ProjectPluginsDir()
 
 bool FPaths::IsRelative(const FString& InPath)
 {
-	const bool bIsRooted = InPath.StartsWith(TEXT("\\"), ESearchCase::CaseSensitive) || InPath.StartsWith(TEXT("/"), ESearchCase::CaseSensitive) || (InPath.Len() >= 2 && iswalpha(InPath[0]) && InPath[1] == L':');
+	const bool bIsRooted = InPath.StartsWith(TEXT("\\"), ESearchCase::CaseSensitive) || InPath.StartsWith(TEXT("/"), ESearchCase::CaseSensitive) || (InPath.Len() >= 2 && FChar::IsAlpha(InPath[0]) && InPath[1] == L':');
 	return !bIsRooted;
 }
 

@@ -2,6 +2,7 @@
 #include "Common/WindowsCommandLine.h"
 #include "StandIn/Records/ProcessRecords.h"
 #include "StandIn/World.h"
+#include "StandInProcesses.h"
 #include "StandInWorld.h"
 #include <cerrno>
 #include <fcntl.h>
@@ -143,21 +144,36 @@ namespace StandIn
 	}
 }
 
+namespace StandInProcesses
+{
+	pid_t Start(const FString& CommandLine, const TCHAR* URL, const TCHAR* Params, const WindowsCommandLine::FStandardHandles& Handles, const TCHAR* WorkingDirectory, int32& OutWindowsError)
+	{
+		// Recorded before the start, so a program that cannot start still shows in the journal, followed by
+		// the warnings that say why: the editor did ask for it, and a reader looking for a step that did
+		// nothing should find the attempt.
+		StandIn::AppendToJournal(std::make_shared<StandIn::FChildProcessRecord>(CommandLine));
+		const std::string Line = StandIn::ToUtf8(CommandLine);
+		std::string Program;
+		WindowsCommandLine::EndOfProgramName(Line, &Program);
+		const std::string HostProgram = ResolveProgram(WithDefaultExtension(Program));
+		const std::string HostWorkingDirectory = WorkingDirectory ? StandInWorld::ToHost(WorkingDirectory) : StandInWorld::CurrentDirectoryOnHost();
+		int StartError = 0;
+		const pid_t Child = WindowsCommandLine::Start(HostProgram, Line, Handles, HostWorkingDirectory, StartError);
+		OutWindowsError = 0;
+		if (Child < 0)
+		{
+			OutWindowsError = WindowsErrorFor(HostProgram, StartError);
+			UE_LOG(LogWindows, Warning, TEXT("CreateProc failed: %s (0x%08x)"), WindowsErrorMessage(OutWindowsError), OutWindowsError);
+			UE_LOG(LogWindows, Warning, TEXT("URL: %s %s"), URL, Params);
+		}
+		return Child;
+	}
+}
+
 bool FPlatformProcess::ExecProcess(const TCHAR* URL, const TCHAR* Params, int32* OutReturnCode, FString* OutStdOut, FString* OutStdErr, const TCHAR* OptionalWorkingDirectory)
 {
 	// The engine quotes the URL unless it already starts with a quote, and passes the parameters as given.
 	const FString CommandLine = URL[0] != TEXT('"') ? FString::Printf(TEXT("\"%s\" %s"), URL, Params) : FString::Printf(TEXT("%s %s"), URL, Params);
-	// Recorded before the start, so a program that cannot start still shows in the journal, followed by the
-	// warnings that say why: the editor did ask for it, and a reader looking for a step that did nothing
-	// should find the attempt.
-	StandIn::AppendToJournal(std::make_shared<StandIn::FChildProcessRecord>(CommandLine));
-
-	const std::string Line = StandIn::ToUtf8(CommandLine);
-	std::string Program;
-	WindowsCommandLine::EndOfProgramName(Line, &Program);
-	const std::string HostProgram = ResolveProgram(WithDefaultExtension(Program));
-	const std::string WorkingDirectory = OptionalWorkingDirectory ? StandInWorld::ToHost(OptionalWorkingDirectory) : StandInWorld::CurrentDirectoryOnHost();
-
 	const bool bCapture = OutStdOut || OutStdErr;
 	int OutPipe[2] = {-1, -1};
 	int ErrPipe[2] = {-1, -1};
@@ -172,8 +188,8 @@ bool FPlatformProcess::ExecProcess(const TCHAR* URL, const TCHAR* Params, int32*
 	Handles.Input = Null;
 	Handles.Output = OutStdOut ? OutPipe[1] : Null;
 	Handles.Error = OutStdErr ? ErrPipe[1] : Null;
-	int StartError = 0;
-	const pid_t Child = WindowsCommandLine::Start(HostProgram, Line, Handles, WorkingDirectory, StartError);
+	int32 WindowsError = 0;
+	const pid_t Child = StandInProcesses::Start(CommandLine, URL, Params, Handles, OptionalWorkingDirectory, WindowsError);
 	close(Null);
 	if (bCapture)
 	{
@@ -188,12 +204,9 @@ bool FPlatformProcess::ExecProcess(const TCHAR* URL, const TCHAR* Params, int32*
 			close(OutPipe[0]);
 			close(ErrPipe[0]);
 		}
-		const int32 ErrorCode = WindowsErrorFor(HostProgram, StartError);
-		UE_LOG(LogWindows, Warning, TEXT("CreateProc failed: %s (0x%08x)"), WindowsErrorMessage(ErrorCode), ErrorCode);
-		UE_LOG(LogWindows, Warning, TEXT("URL: %s %s"), URL, Params);
 		if (OutReturnCode)
 		{
-			*OutReturnCode = ErrorCode;
+			*OutReturnCode = WindowsError;
 		}
 		return false;
 	}

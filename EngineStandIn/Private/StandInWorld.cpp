@@ -1,9 +1,11 @@
+#include "StandInBackgroundTasks.h"
 #include "StandInModules.h"
 #include "StandInWorld.h"
 #include "StandInPackages.h"
 #include "StandIn/Records/FileAttributesRecord.h"
 #include "StandIn/Records/LogRecord.h"
 #include "StandIn/Records/MessageBoxRecord.h"
+#include "StandIn/Records/PathRefusalRecord.h"
 #include "StandIn/World.h"
 #include "Common/WindowsDrivePath.h"
 #include "GenericPlatform/GenericPlatformFile.h"
@@ -32,6 +34,15 @@ namespace
 		static FRecords Instance;
 		return Instance;
 	}
+
+	// "/x" but not the network path "//server/x", which stays outside the drives and is refused.
+	bool IsRootedWithoutDrive(const FString& Path)
+	{
+		const auto IsSeparator = [](TCHAR Char) {
+			return Char == L'/' || Char == L'\\';
+		};
+		return Path.Len() >= 1 && IsSeparator(Path[0]) && !(Path.Len() >= 2 && IsSeparator(Path[1]));
+	}
 }
 
 namespace StandIn
@@ -46,6 +57,7 @@ namespace StandIn
 		}
 		State.World = World;
 		State.BaseDirStorage = World.BaseDir;
+		StandInBackgroundTasks::Forget();
 		StandInJournal::Clear();
 		StandInPlugins::Forget();
 		StandInPlugins::ForgetMountPoints();
@@ -124,7 +136,17 @@ namespace StandInWorld
 		{
 			Path = FPaths::ConvertRelativePathToFull(Records().World.BaseDir, Path);
 		}
-		return WindowsDrivePath::ToHost(Records().World.DriveRoot, StandIn::ToUtf8(Path));
+		else if (IsRootedWithoutDrive(Path))
+		{
+			// "/x" is on the current drive, the one the editor's current folder is on.
+			Path = Records().World.BaseDir.Left(2) + Path;
+		}
+		const std::string Host = WindowsDrivePath::ToHost(Records().World.DriveRoot, StandIn::ToUtf8(Path));
+		if (Host.empty())
+		{
+			StandIn::AppendToJournal(std::make_shared<StandIn::FPathRefusalRecord>(FString(WindowsPath)));
+		}
+		return Host;
 	}
 
 	std::string CurrentDirectoryOnHost()

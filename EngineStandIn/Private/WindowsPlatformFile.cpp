@@ -251,19 +251,19 @@ namespace
 			const size_t FolderLength = Path.size();
 			for (const FEntry& Entry : Entries)
 			{
+				Path.resize(FolderLength);
+				Path.append(Names, Entry.Offset, Entry.Length);
 				bool bIsDirectory = Entry.Type == DT_DIR;
 				if (Entry.Type == DT_LNK || Entry.Type == DT_UNKNOWN)
 				{
+					// Through the world's own path lookup, so that a link leading out of it is not there.
 					struct stat Info;
-					const FString Name((int32)Entry.Length, Names.data() + Entry.Offset);
-					if (stat((HostDirectory + "/" + StandIn::ToUtf8(Name)).c_str(), &Info) != 0)
+					if (!StatHost(Path.c_str(), Info))
 					{
 						continue;
 					}
 					bIsDirectory = S_ISDIR(Info.st_mode);
 				}
-				Path.resize(FolderLength);
-				Path.append(Names, Entry.Offset, Entry.Length);
 				if (!VisitEntry(Path.c_str(), bIsDirectory))
 				{
 					return false;

@@ -1,6 +1,6 @@
 // The stand-in's cmd.exe. Like the real one it reads its raw command line, not argv, takes its own switches,
-// and runs the command after /C: the built-ins the editor asks for (mklink /d, rmdir), or any other program,
-// found as cmd finds it, with the rest of the line as that program's command line. Paths are Windows paths,
+// and runs the command after /C: the built-ins the editor asks for (mklink /d, rmdir), or any other program
+// or batch file, found as cmd finds it, with the rest of the line as that program's command line. Paths are Windows paths,
 // mapped into the sandbox through UGC_DRIVE_ROOT. What the real cmd.exe would do but this one does not
 // know is refused with a message, never guessed at.
 #include "Common/WindowsCommandLine.h"
@@ -97,7 +97,7 @@ namespace
 
 	// As cmd: a name with a path is taken as it stands, a bare one from the current folder first and then
 	// from PATH; a name without an extension is tried with each of PATHEXT's.
-	std::string FindProgram(const std::string& Name, bool& bOutIsBatchFile)
+	std::string FindProgram(const std::string& Name)
 	{
 		static const char* const PathExtensions[] = {".com", ".exe", ".bat", ".cmd"};
 		std::vector<std::string> Names;
@@ -126,8 +126,6 @@ namespace
 			}
 			if (!Found.empty())
 			{
-				const std::string Extension = Lower(Found.substr(Found.rfind('.') == std::string::npos ? Found.size() : Found.rfind('.')));
-				bOutIsBatchFile = Extension == ".bat" || Extension == ".cmd";
 				return Found;
 			}
 		}
@@ -148,8 +146,7 @@ namespace
 		if (!bStripQuotes && bTwoQuotes)
 		{
 			const std::string Between = Command.substr(1, Closing - 1);
-			bool bIsBatchFile = false;
-			if (Between.find_first_of("&<>()@^|") == std::string::npos && Between.find_first_of(" \t") != std::string::npos && !FindProgram(Between, bIsBatchFile).empty())
+			if (Between.find_first_of("&<>()@^|") == std::string::npos && Between.find_first_of(" \t") != std::string::npos && !FindProgram(Between).empty())
 			{
 				return Command;
 			}
@@ -311,18 +308,15 @@ namespace
 		return ExitCode;
 	}
 
+	// A batch file is a program of the sandbox like any other: started with the command as its line, it
+	// receives the arguments the C runtime splits from it, as the program a real batch file hands %* to.
 	int RunProgram(const std::string& Command, const std::string& Name)
 	{
-		bool bIsBatchFile = false;
-		const std::string HostProgram = FindProgram(Name, bIsBatchFile);
+		const std::string HostProgram = FindProgram(Name);
 		if (HostProgram.empty())
 		{
 			std::fprintf(stderr, "'%s' is not recognized as an internal or external command,\noperable program or batch file.\n", Name.c_str());
 			return 9009;
-		}
-		if (bIsBatchFile)
-		{
-			return Refuse("batch files are not run: " + Name);
 		}
 		int StartError = 0;
 		const pid_t Child = WindowsCommandLine::Start(HostProgram, Command, WindowsCommandLine::FStandardHandles(), std::string(), StartError);

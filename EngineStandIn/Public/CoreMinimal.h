@@ -6,6 +6,7 @@
 #include "Misc/AssertionMacros.h"
 #include "Templates/UnrealTemplate.h"
 #include "Serialization/Archive.h"
+#include "Misc/Char.h"
 #include "Containers/UnrealString.h"
 #include "Containers/Array.h"
 #include "Containers/Map.h"

@@ -5,6 +5,7 @@
 #include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "Interfaces/IPluginManager.h"
 #include "SandboxTest.h"
+#include "StandIn/BackgroundTasks.h"
 #include "StandIn/Records/SavePromptRecord.h"
 #include "StandIn/Records/UatTaskRecord.h"
 #include "Styling/SlateStyleRegistry.h"
@@ -20,6 +21,9 @@ protected:
 	void SetUp() override
 	{
 		FSandboxTest::SetUp();
+		// The install's automation tool, which prints the arguments it receives.
+		WriteFile("C:/Work/Engine/Build/BatchFiles/RunUAT.bat", "#!/bin/sh\nfor Argument in \"$@\"; do echo \"$Argument\"; done\n");
+		std::filesystem::permissions(Host("C:/Work/Engine/Build/BatchFiles/RunUAT.bat"), std::filesystem::perms::owner_all);
 		FUGCEditorStyle::Initialize();
 		FUGCEditorCommands::Register();
 		Packager = MakeShared<FUGCPackager>();
@@ -27,6 +31,7 @@ protected:
 
 	void TearDown() override
 	{
+		StandIn::WaitForBackgroundTasks();
 		Packager.Reset();
 		if (FUGCEditorCommands::IsRegistered())
 		{

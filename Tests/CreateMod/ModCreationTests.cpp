@@ -170,6 +170,29 @@ TEST_F(FModCreationTest, NamesWithOtherCharactersAreRefusedNamingEachOnce)
 	EXPECT_FALSE(Exists("C:/Work/Moravane/Plugins"));
 }
 
+TEST_F(FModCreationTest, LettersOfEveryScriptAreLegalAndMakeTheMod)
+{
+	OpenWizard();
+	for (const std::string Name : {"Železnice", "鉄道", "Café"})
+	{
+		TypeName(Name);
+		EXPECT_EQ(NameError(), "") << Name;
+		EXPECT_TRUE(CanCreate()) << Name;
+	}
+	ClickCreate();
+
+	EXPECT_TRUE(Exists("C:/Work/Moravane/Plugins/Café/Café.uplugin"));
+}
+
+TEST_F(FModCreationTest, PunctuationBeyondSevenBitsIsIllegalToo)
+{
+	OpenWizard();
+	TypeName("Café–Route");
+
+	EXPECT_EQ(NameError(), "Plugin name cannot contain illegal characters like: \"–\"");
+	EXPECT_FALSE(CanCreate());
+}
+
 TEST_F(FModCreationTest, NamesMustBeginWithALetter)
 {
 	OpenWizard();
@@ -199,16 +222,16 @@ TEST_F(FModCreationTest, ANameADiscoveredPluginHasIsRefusedWhateverItsCase)
 	EXPECT_FALSE(Exists("C:/Work/Moravane/Plugins/oldroute"));
 }
 
-TEST_F(FModCreationTest, ANameWithADescriptorAlreadyAtThePathIsRefused)
+TEST_F(FModCreationTest, ANameWithADescriptorAlreadyAtThePathInAnyCaseIsRefused)
 {
-	WriteFile("C:/Work/Moravane/Plugins/Undiscovered/Undiscovered.uplugin", "{\"FileVersion\": 3}");
+	WriteFile("C:/Work/Moravane/Plugins/undiscovered/undiscovered.uplugin", "{\"FileVersion\": 3}");
 	OpenWizard();
 	TypeName("Undiscovered");
 
 	EXPECT_EQ(NameError(), "A plugin already exists at this path!");
 	EXPECT_FALSE(CanCreate());
 	ClickCreate();
-	EXPECT_EQ(FilesBelow("C:/Work/Moravane/Plugins/Undiscovered"), std::vector<std::string>({"Undiscovered.uplugin"}));
+	EXPECT_EQ(FilesBelow("C:/Work/Moravane/Plugins"), std::vector<std::string>({"undiscovered/undiscovered.uplugin"}));
 }
 
 TEST_F(FModCreationTest, AFailedCreationIsExplainedAndLeavesNoHalfMadeFolder)

@@ -223,7 +223,7 @@ TEST_F(FHeadlessEditorTest, MenusListsTheEntriesThenTheSubMenuEmptyTheDropDownAn
 	EXPECT_EQ(MenuLines[13], "Menu: Cook Mod sub-menu | entry | CalverlyBranchLine | ../../../Moravane/Plugins/CalverlyBranchLine | UGCEditorStyle/UGCEditor.Folder | no brush");
 }
 
-TEST_F(FHeadlessEditorTest, CookDeclinedLeavesThePromptsMessageThenSavedItStartsTheTask)
+TEST_F(FHeadlessEditorTest, CookDeclinedLeavesThePromptsMessageThenSavedItRunsTheTaskToItsEnd)
 {
 	const FRun Declined = Run({"--root", Sandbox().string(), "cook", "CalverlyBranchLine", "--dirty", "/CalverlyBranchLine/Maps/Main", "--dirty-map", "/Game/Maps/Hub"});
 	const FRun Saved = Run({"--root", Sandbox().string(), "cook", "CalverlyBranchLine", "--dirty", "/CalverlyBranchLine/Maps/Main", "--save", "all"});
@@ -237,10 +237,24 @@ TEST_F(FHeadlessEditorTest, CookDeclinedLeavesThePromptsMessageThenSavedItStarts
 	EXPECT_EQ(Declined.Out.find("Task: "), std::string::npos);
 	EXPECT_EQ(Saved.ExitCode, 0) << Saved.Err;
 	const std::vector<std::string> SavedOut = SplitLines(Saved.Out);
-	EXPECT_EQ(std::vector<std::string>(SavedOut.end() - 2, SavedOut.end()), (std::vector<std::string>{
-																				"Save prompt: /CalverlyBranchLine/Maps/Main",
-																				"Task: Cooking CalverlyBranchLine | Cooking CalverlyBranchLine | Windows | ../../../Moravane/Resources/PackageUGC_64x.png | BuildDLC -Project=\"C:/Work/Moravane/Moravane.uproject\" -PluginPath=\"C:/Work/Moravane/Plugins/CalverlyBranchLine/CalverlyBranchLine.uplugin\" -ue4exe=\"C:/Work/\"Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe -nocompile -TargetPlatform=WindowsNoEditor -dlcName=\"CalverlyBranchLine\",\"CalverlyBranchLine\" ",
-																			}));
+	const std::string Tool = "UATHelper: Cooking CalverlyBranchLine (Windows): ";
+	// The session waits for the sample's automation tool to end.
+	EXPECT_EQ(std::vector<std::string>(SavedOut.end() - 13, SavedOut.end()), (std::vector<std::string>{
+																				 "Save prompt: /CalverlyBranchLine/Maps/Main",
+																				 "Task: Cooking CalverlyBranchLine | Cooking CalverlyBranchLine | Windows | ../../../Moravane/Resources/PackageUGC_64x.png | BuildDLC -Project=\"C:/Work/Moravane/Moravane.uproject\" -PluginPath=\"C:/Work/Moravane/Plugins/CalverlyBranchLine/CalverlyBranchLine.uplugin\" -ue4exe=\"C:/Work/\"Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe -nocompile -TargetPlatform=WindowsNoEditor -dlcName=\"CalverlyBranchLine\",\"CalverlyBranchLine\" ",
+																				 "Notification: Cooking CalverlyBranchLine for Windows...",
+																				 Tool + "BuildDLC",
+																				 Tool + "-Project=C:/Work/Moravane/Moravane.uproject",
+																				 Tool + "-PluginPath=C:/Work/Moravane/Plugins/CalverlyBranchLine/CalverlyBranchLine.uplugin",
+																				 Tool + "-ue4exe=C:/Work/Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe",
+																				 Tool + "-nocompile",
+																				 Tool + "-TargetPlatform=WindowsNoEditor",
+																				 Tool + "-dlcName=CalverlyBranchLine,CalverlyBranchLine",
+																				 Tool + "Cooked /CalverlyBranchLine/Main",
+																				 Tool + "BUILD SUCCESSFUL",
+																				 "Notification: Cooking CalverlyBranchLine complete!",
+																			 }));
+	EXPECT_EQ(ReadAll(Drive("Work/Moravane/Plugins/CalverlyBranchLine/Saved/Cooked/WindowsNoEditor/Moravane/Plugins/CalverlyBranchLine/Content/Metadata/DevelopmentAssetRegistry.bin")), "development asset registry of CalverlyBranchLine\n/CalverlyBranchLine/Main\n");
 }
 
 TEST_F(FHeadlessEditorTest, CookOfAPluginTheDropDownDoesNotOfferIsAnErrorAndNoTaskStarts)
@@ -264,6 +278,28 @@ TEST_F(FHeadlessEditorTest, CreateMakesTheModFromTwoTemplatesThroughTheTabsWizar
 	EXPECT_EQ(std::vector<std::string>(Out.end() - 2, Out.end()), (std::vector<std::string>{"Tab: Create New Mod (UGCPluginCreator) 800x600", "Notification: 'Northline' was created successfully."}));
 	EXPECT_TRUE(fs::exists(Drive("Work/Moravane/Plugins/Northline/Northline.uplugin")));
 	EXPECT_NE(ReadAll(Drive("Work/Moravane/Plugins/Northline/Northline.uplugin")).find("\"Category\": \"DLC\""), std::string::npos);
+}
+
+TEST_F(FHeadlessEditorTest, CreateFindsTheWorldWhateverCaseTheLaunchFolderAndProjectAreNamedIn)
+{
+	CopyProjectData();
+
+	const FRun Run = this->Run({"--root", Sandbox().string(), "--launch-dir", "C:/work/", "--project", "C:/WORK/moravane/MORAVANE.uproject", "create", "Northline"});
+
+	EXPECT_EQ(Run.ExitCode, 0) << Run.Err;
+	EXPECT_NE(Run.Out.find("Notification: 'Northline' was created successfully."), std::string::npos) << Run.Out;
+	EXPECT_TRUE(fs::exists(Drive("Work/Moravane/Plugins/Northline/Northline.uplugin")));
+	EXPECT_FALSE(fs::exists(Drive("WORK")));
+}
+
+TEST_F(FHeadlessEditorTest, AProjectAboveTheDriveRootIsOnTheDriveRootAndNothingIsWrittenOutsideTheRoot)
+{
+	CopyProjectData();
+
+	Run({"--root", Sandbox().string(), "--project", "C:/../../elsewhere/P/P.uproject", "create", "Northline"});
+
+	EXPECT_TRUE(fs::is_directory(Drive("elsewhere/P/Plugins")));
+	EXPECT_FALSE(fs::exists(Root / "elsewhere"));
 }
 
 TEST_F(FHeadlessEditorTest, CreateWithANameTheWizardRefusesExitsWithTwoAndLeavesNothingOnDisk)

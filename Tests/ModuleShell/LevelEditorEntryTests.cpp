@@ -70,15 +70,18 @@ TEST_F(FModuleShellTest, CookModTextsKeepTheirOwnKeysInTheMenuAndOnTheToolBar)
 	EXPECT_EQ(FTextInspector::GetKey(ToolBar.ToolTip).Get(TEXT("")), TEXT("PackageUGC_Tooltip"));
 }
 
-TEST_F(FModuleShellTest, ClickingTheCookModComboButtonItselfDoesNothing)
+TEST_F(FModuleShellTest, ClickingTheCookModComboButtonOpensItsDropDown)
 {
+	WriteFile("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin", "{\"FileVersion\": 3, \"CanContainContent\": true}");
+	StandIn::DiscoverPlugins();
 	LoadUGCEditor();
 	const TSharedRef<SWidget> ToolBar = StandIn::OpenLevelEditorToolBar(TEXT("Compile"));
 	const size_t Mark = JournalMark();
 
 	EXPECT_TRUE(StandIn::ClickMenuEntry(ToolBar, TEXT("Cook Mod")));
 
-	EXPECT_EQ(StandIn::JournalLines(Mark), std::vector<std::string>());
+	// Opening the drop-down is what looks for the plugins it lists.
+	EXPECT_EQ(StandIn::JournalLines(Mark), std::vector<std::string>{"LogTemp: Display: Adding MyRoute"});
 }
 
 TEST_F(FModuleShellTest, CookModDropDownIsBuiltAtEveryOpeningAndTheSubMenuShowsWhatItRegisteredLast)

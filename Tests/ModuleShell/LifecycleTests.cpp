@@ -17,13 +17,14 @@ TEST_F(FModuleShellTest, ExportedEntryPointMakesANewModuleThatHasStartedNothing)
 	EXPECT_TRUE(StandIn::Journal().empty());
 }
 
-TEST_F(FModuleShellTest, LoadedByNameItStartsAndLoadsTheLevelEditorThenTheAssetRegistry)
+TEST_F(FModuleShellTest, AtTheEditorsStartItStartsBeforeThePluginBrowserAndLoadsTheLevelEditorThenTheAssetRegistry)
 {
-	IModuleInterface* Module = LoadUGCEditor();
+	WriteFile("C:/Work/Moravane/Moravane.uproject", "{\"FileVersion\": 3, \"Modules\": [{\"Name\": \"UGCEditor\", \"Type\": \"Editor\", \"LoadingPhase\": \"Default\"}]}");
 
-	ASSERT_NE(dynamic_cast<FUGCEditorModule*>(Module), nullptr);
+	StandIn::LoadStartupModules();
+
 	EXPECT_TRUE(FUGCEditorCommands::IsRegistered());
-	EXPECT_EQ(StandIn::LoadedModules(), (std::vector<FString>{TEXT("PluginBrowser"), TEXT("UGCEditor"), TEXT("LevelEditor"), TEXT("AssetRegistry")}));
+	EXPECT_EQ(StandIn::LoadedModules(), (std::vector<FString>{TEXT("UGCEditor"), TEXT("LevelEditor"), TEXT("AssetRegistry"), TEXT("PluginBrowser")}));
 }
 
 TEST_F(FModuleShellTest, StartUpReloadsTexturesThenWarnsTwiceAndLeavesStyleCommandsAndItsLayerInPlace)

@@ -58,6 +58,18 @@ TEST_F(FSandboxTest, ModuleIsLoadedOnceAndStaysLoaded)
 	EXPECT_EQ(FModuleManager::Get().LoadModule(TEXT("NoSuchModule")), nullptr);
 }
 
+TEST_F(FSandboxTest, StartUpLoadsTheProjectsDefaultPhaseModulesInItsOrderThenThePluginsModules)
+{
+	WriteFile("C:/Work/Moravane/Moravane.uproject", "{\"FileVersion\": 3, \"Modules\": ["
+													"{\"Name\": \"MainFrame\", \"LoadingPhase\": \"PostEngineInit\"},"
+													"{\"Name\": \"DesktopPlatform\"},"
+													"{\"Name\": \"AssetRegistry\", \"LoadingPhase\": \"Default\"}]}");
+
+	StandIn::LoadStartupModules();
+
+	EXPECT_EQ(StandIn::LoadedModules(), (std::vector<FString>{TEXT("DesktopPlatform"), TEXT("AssetRegistry"), TEXT("PluginBrowser")}));
+}
+
 TEST_F(FSandboxTest, MainFrameParentWindowHasANativeWindowWithAHandle)
 {
 	const TSharedPtr<SWindow> ParentWindow = FModuleManager::LoadModuleChecked<IMainFrameModule>(TEXT("MainFrame")).GetParentWindow();
@@ -155,6 +167,49 @@ TEST_F(FSandboxTest, ClickedMenuEntryRunsTheActionOfTheListItWasAddedWith)
 	EXPECT_TRUE(StandIn::ClickMenuEntry(Unmapped.MakeWidget(), TEXT("Entry")));
 	EXPECT_FALSE(StandIn::ClickMenuEntry(Mapped.MakeWidget(), TEXT("entry")));
 	EXPECT_EQ(Runs, 1);
+}
+
+namespace
+{
+	// A tool bar with one combo button "Combo" of this action, whose drop-down counts its openings.
+	TSharedRef<SWidget> MakeToolBarWithCombo(const FUIAction& Action, int& Openings)
+	{
+		FToolBarBuilder ToolBar(MakeShared<FUICommandList>(), FMultiBoxCustomization::None);
+		ToolBar.AddComboButton(Action, FOnGetContent::CreateLambda([&Openings]() {
+								   ++Openings;
+								   return FMenuBuilder(true, nullptr).MakeWidget();
+							   }),
+							   FText::FromString(TEXT("Combo")));
+		return ToolBar.MakeWidget();
+	}
+}
+
+TEST_F(FSandboxTest, ToolBarComboOpensItsDropDownWhereverClickedAndNeverRunsItsAction)
+{
+	int Runs = 0;
+	int Openings = 0;
+	const TSharedRef<SWidget> ToolBar = MakeToolBarWithCombo(FUIAction(FExecuteAction::CreateLambda([&Runs]() {
+																 ++Runs;
+															 })),
+															 Openings);
+
+	EXPECT_TRUE(StandIn::ClickMenuEntry(ToolBar, TEXT("Combo")));
+	EXPECT_TRUE(StandIn::OpenComboDropDown(ToolBar, TEXT("Combo")).IsValid());
+	EXPECT_EQ(Openings, 2);
+	EXPECT_EQ(Runs, 0);
+}
+
+TEST_F(FSandboxTest, ToolBarComboThatCannotExecuteIsDisabledAndOpensNothing)
+{
+	int Openings = 0;
+	const TSharedRef<SWidget> ToolBar = MakeToolBarWithCombo(FUIAction(FExecuteAction(), FCanExecuteAction::CreateLambda([]() {
+																		   return false;
+																	   })),
+															 Openings);
+
+	EXPECT_TRUE(StandIn::ClickMenuEntry(ToolBar, TEXT("Combo")));
+	EXPECT_FALSE(StandIn::OpenComboDropDown(ToolBar, TEXT("Combo")).IsValid());
+	EXPECT_EQ(Openings, 0);
 }
 
 TEST_F(FSandboxTest, DirtyPackagesAreListedByKindInTheWorldsOrder)

@@ -39,9 +39,9 @@ namespace StandIn
 	bool CommitText(const TSharedRef<SWidget>& TextWidget, const FString& Text, ETextCommit::Type CommitType = ETextCommit::OnEnter);
 
 	// Clicks the first entry or tool bar block of a menu or tool bar widget that shows this label: a command's
-	// entry or button runs its action in the command list it was added with, if that list maps it; a combo
-	// button runs its own action, if it has one; a sub-menu's entry does nothing unless it opens on click
-	// (see OpenSubMenu). False when nothing shows the label.
+	// entry or button runs its action in the command list it was added with, if that list maps it; a tool
+	// bar combo button opens its drop-down (see OpenComboDropDown); a sub-menu's entry does nothing unless it
+	// opens on click (see OpenSubMenu). False when nothing shows the label.
 	bool ClickMenuEntry(const TSharedRef<SWidget>& Menu, const FString& Label);
 
 	// Opens the level editor's main menu or its tool bar and gives what the extensions at the hook
@@ -49,9 +49,10 @@ namespace StandIn
 	// added; both are built anew at every opening.
 	TSharedRef<SWidget> OpenLevelEditorMenu(FName Hook);
 	TSharedRef<SWidget> OpenLevelEditorToolBar(FName Hook);
-	// Opens the sub-menu of the first entry with this label (hovering or clicking it, as it opens) or the
-	// drop-down of the first combo button with this label: its content is built now. Null when there is
-	// no such entry.
+	// Opens the sub-menu of the first entry with this label (hovering or clicking it, as it opens), or clicks
+	// the first combo button with this label, which opens its drop-down wherever it is clicked unless its
+	// action's can-execute says it is disabled (the action itself never runs): the content is built now.
+	// Null when there is no such entry or nothing opens.
 	TSharedPtr<SWidget> OpenSubMenu(const TSharedRef<SWidget>& Menu, const FString& Label);
 	TSharedPtr<SWidget> OpenComboDropDown(const TSharedRef<SWidget>& ToolBar, const FString& Label);
 }

@@ -89,8 +89,9 @@ namespace StandIn
 		// the whole menu.
 		bool bOpensOnClick = false;
 		bool bClosesMenuAfterSelection = false;
-		// A combo button's: whether its own part has an action bound, and whether it shows as a simple combo
-		// box, without icon and label.
+		// A combo button's: whether its action has an execute bound (which a click never runs: the action
+		// only says whether the button is enabled), and whether it shows as a simple combo box, without icon
+		// and label.
 		bool bHasOwnAction = false;
 		bool bIsSimpleComboBox = false;
 	};

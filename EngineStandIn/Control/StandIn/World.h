@@ -61,6 +61,12 @@ namespace StandIn
 	// the content of the enabled ones. A world without a project file counts as a project that lists nothing.
 	void DiscoverPlugins();
 
+	// The editor's start-up of its modules: every loaded module shut down and unloaded, then, in the Default
+	// loading phase, the modules the project file lists for that phase, in its order, and after them the
+	// enabled plugins' modules of that phase, as the engine starts them. A world reset starts only the
+	// plugins' modules.
+	void LoadStartupModules();
+
 	// The names of the loaded modules, in the order they were loaded.
 	std::vector<FString> LoadedModules();
 

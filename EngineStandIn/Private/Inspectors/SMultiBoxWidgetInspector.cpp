@@ -27,8 +27,8 @@ namespace StandIn
 			switch (Block.Kind)
 			{
 			case FMultiBlock::EKind::ComboButton:
-				// Its own part: an empty action does nothing; the drop-down opens through its arrow.
-				Block.Action.Execute();
+				// The block is one combo button: a click anywhere on it opens the drop-down.
+				OpenEntry(Menu, EntryIndex);
 				return;
 			case FMultiBlock::EKind::SubMenu:
 				if (Block.bOpenSubMenuOnClick)
@@ -58,7 +58,8 @@ namespace StandIn
 				Block.SubMenuBuilder.ExecuteIfBound(SubMenuBuilder);
 				return SubMenuBuilder.MakeWidget();
 			}
-			if (Block.Kind == FMultiBlock::EKind::ComboButton && Block.MenuContentGenerator.IsBound())
+			// The combo's action never runs; it only says whether the button is enabled and so takes a click.
+			if (Block.Kind == FMultiBlock::EKind::ComboButton && Block.Action.CanExecute() && Block.MenuContentGenerator.IsBound())
 			{
 				return Block.MenuContentGenerator.Execute();
 			}

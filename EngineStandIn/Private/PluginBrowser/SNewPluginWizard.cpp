@@ -12,7 +12,6 @@
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/SBoxPanel.h"
-#include <cwctype>
 
 #define LOCTEXT_NAMESPACE "NewPluginWizard"
 
@@ -76,7 +75,7 @@ void SNewPluginWizard::ValidateFullPluginPath()
 		for (int32 Index = 0; Index < Name.Len(); ++Index)
 		{
 			const FString Char = Name.Mid(Index, 1);
-			if (!iswalnum(Name[Index]) && Char != TEXT("_") && !IllegalCharacters.Contains(Char))
+			if (!FChar::IsAlnum(Name[Index]) && Char != TEXT("_") && !IllegalCharacters.Contains(Char))
 			{
 				IllegalCharacters += Char;
 			}
@@ -88,7 +87,7 @@ void SNewPluginWizard::ValidateFullPluginPath()
 		}
 	}
 
-	if (bIsNewNameValid && !iswalpha(Name[0]))
+	if (bIsNewNameValid && !FChar::IsAlpha(Name[0]))
 	{
 		PluginNameError = LOCTEXT("PluginNameMustBeginWithACharacter", "Plugin names must begin with an alphabetic character.");
 		bIsNewNameValid = false;

@@ -8,6 +8,8 @@ class FPaths
 {
 public:
 	static FString LaunchDir();
+	static FString EngineDir();
+	static FString RootDir();
 	static FString ProjectDir();
 	static FString ProjectPluginsDir();
 	static FString GetProjectFilePath();

@@ -5,13 +5,14 @@
 
 namespace StandIn
 {
-	// A toast in the editor's corner.
+	// A toast in the editor's corner, or a change of one already shown (a new text and state).
 	class FNotificationRecord : public FJournalRecord
 	{
 	public:
 		enum class ECompletionState
 		{
 			None,
+			Pending,
 			Success,
 			Fail
 		};

@@ -5,8 +5,9 @@
 
 namespace StandIn
 {
-	// An automation-tool task handed to IUATHelperModule::CreateUatTask. The task is not run: the editor
-	// would run it in another process and show its progress in a notification.
+	// An automation-tool task handed to IUATHelperModule::CreateUatTask, recorded as it is handed over; what
+	// the task then does (a message box, the cmd.exe process, the notification and its log lines) follows in
+	// the journal.
 	class FUatTaskRecord : public FJournalRecord
 	{
 	public:
