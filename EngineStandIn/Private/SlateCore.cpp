@@ -121,6 +121,7 @@ namespace
 			return Name;
 		}
 		// The core style keeps no brushes here.
+		virtual void GetResources(TArray<const FSlateBrush*>& OutResources) const override {}
 		virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier) const override { return FStyleDefaults::GetNoBrush(); }
 		virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier, const FSlateBrush* const DefaultBrush) const override { return DefaultBrush; }
 

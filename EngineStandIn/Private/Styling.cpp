@@ -1,3 +1,4 @@
+#include "Application/SlateApplicationBase.h"
 #include "Brushes/SlateImageBrush.h"
 #include "Styling/ISlateStyle.h"
 #include "Styling/SlateBrush.h"
@@ -58,6 +59,14 @@ FString FSlateStyleSet::RootToContentDir(const TCHAR* RelativePath, const TCHAR*
 	return (ContentRootDir / RelativePath) + Extension;
 }
 
+void FSlateStyleSet::GetResources(TArray<const FSlateBrush*>& OutResources) const
+{
+	for (const std::pair<FName, FSlateBrush*>& Entry : BrushResources)
+	{
+		OutResources.Add(Entry.second);
+	}
+}
+
 const FSlateBrush* FSlateStyleSet::GetBrush(const FName PropertyName, const ANSICHAR* Specifier) const
 {
 	return GetOptionalBrush(PropertyName, Specifier, DefaultBrush);
@@ -101,6 +110,14 @@ void FSlateStyleRegistry::RegisterSlateStyle(const ISlateStyle& InSlateStyle)
 	check(SlateStyleName != NAME_None);
 	check(!FindSlateStyle(SlateStyleName));
 	Repository().push_back(&InSlateStyle);
+
+	if (FSlateApplicationBase::IsInitialized())
+	{
+		if (FSlateRenderer* Renderer = FSlateApplicationBase::Get().GetRenderer())
+		{
+			Renderer->LoadStyleResources(InSlateStyle);
+		}
+	}
 }
 
 void FSlateStyleRegistry::UnRegisterSlateStyle(const ISlateStyle& InSlateStyle)

@@ -234,7 +234,7 @@ bool FString::EndsWith(const FString& Suffix, ESearchCase::Type SearchCase) cons
 	return !Suffix.IsEmpty() && Len() >= Suffix.Len() && MatchesAt(Data, (size_t)(Len() - Suffix.Len()), *Suffix, (size_t)Suffix.Len(), SearchCase);
 }
 
-FString FString::Replace(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase) const
+FString FString::Replace(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase) const&
 {
 	if (IsEmpty() || From == nullptr || *From == 0)
 	{
@@ -316,19 +316,19 @@ void FString::TrimStartAndEndInline()
 	TrimStartInline();
 }
 
-FString FString::Left(int32 Count) const
+FString FString::Left(int32 Count) const&
 {
 	return FString(Data.substr(0, (size_t)std::max(0, std::min(Count, Len()))));
 }
 
-FString FString::Mid(int32 Start, int32 Count) const
+FString FString::Mid(int32 Start, int32 Count) const&
 {
 	const int32 ClampedStart = std::max(0, std::min(Start, Len()));
 	const int32 ClampedCount = std::max(0, std::min(Count, Len() - ClampedStart));
 	return FString(Data.substr((size_t)ClampedStart, (size_t)ClampedCount));
 }
 
-FString FString::Right(int32 Count) const
+FString FString::Right(int32 Count) const&
 {
 	const int32 Clamped = std::max(0, std::min(Count, Len()));
 	return FString(Data.substr(Data.size() - (size_t)Clamped));

@@ -1,5 +1,4 @@
 #include "GenericPlatform/GenericPlatformFile.h"
-#include "HAL/PlatformFilemanager.h"
 #include "Misc/Paths.h"
 #include "StandIn/World.h"
 #include "StandInWorld.h"
@@ -279,25 +278,4 @@ IPlatformFile& IPlatformFile::GetPlatformPhysical()
 {
 	static FWindowsPlatformFile Physical;
 	return Physical;
-}
-
-FPlatformFileManager& FPlatformFileManager::Get()
-{
-	static FPlatformFileManager Instance;
-	return Instance;
-}
-
-IPlatformFile& FPlatformFileManager::GetPlatformFile()
-{
-	if (TopmostPlatformFile == nullptr)
-	{
-		TopmostPlatformFile = &IPlatformFile::GetPlatformPhysical();
-	}
-	return *TopmostPlatformFile;
-}
-
-void FPlatformFileManager::SetPlatformFile(IPlatformFile& NewTopmostPlatformFile)
-{
-	TopmostPlatformFile = &NewTopmostPlatformFile;
-	TopmostPlatformFile->InitializeAfterSetActive();
 }

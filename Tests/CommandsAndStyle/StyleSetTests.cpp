@@ -64,3 +64,28 @@ TEST_F(FCommandsAndStyleTest, ReloadTexturesDoesNothingWithoutSlate)
 
 	EXPECT_TRUE(StandIn::JournalRecords<StandIn::FTextureReloadRecord>().empty());
 }
+
+// With the renderer up, registering the style loads its images at once; a missing one is only logged.
+TEST_F(FCommandsAndStyleTest, RegisteringTheStyleLogsEachIconFileThatIsMissing)
+{
+	StandIn::FWorld World = DefaultWorld();
+	World.bSlateInitialized = true;
+	ResetWorld(World);
+	InstallStyleImages();
+	std::filesystem::remove(Host("C:/Work/Moravane/Resources/PackageUGC_64x.png"));
+	WriteFile("C:/Work/Moravane/Resources/DistributeUGC_64x.png", "not an image");
+
+	FUGCEditorStyle::Initialize();
+
+	EXPECT_EQ(LogLines(), (std::vector<std::string>{
+							  "LogSlate: Could not find file for Slate resource: ../../../Moravane/Resources/PackageUGC_64x.png",
+							  "LogSlate: Only pngs are supported in Slate",
+						  }));
+}
+
+TEST_F(FCommandsAndStyleTest, RegisteringTheStyleWithoutTheRendererLoadsNothing)
+{
+	FUGCEditorStyle::Initialize();
+
+	EXPECT_TRUE(LogLines().empty());
+}

@@ -28,6 +28,7 @@ protected:
 		StandIn::FWorld World = DefaultWorld();
 		World.bSlateInitialized = true;
 		ResetWorld(World);
+		InstallStyleImages();
 	}
 
 	// The editor shuts the module down and destroys it at exit; so does every test that loaded it.

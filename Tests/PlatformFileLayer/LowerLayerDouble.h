@@ -30,6 +30,8 @@ public:
 		return It == Files.end() ? nullptr : &It->second;
 	}
 
+	IPlatformFile* Below = nullptr;
+	int TickCount = 0;
 	std::vector<std::wstring> DeletedDirectoryRequests;
 	struct FWriteRequest
 	{
@@ -40,8 +42,9 @@ public:
 	std::vector<FWriteRequest> WriteRequests;
 
 	virtual bool Initialize(IPlatformFile* Inner, const TCHAR* CmdLine) override { return true; }
-	virtual IPlatformFile* GetLowerLevel() override { return nullptr; }
-	virtual void SetLowerLevel(IPlatformFile* NewLowerLevel) override {}
+	virtual IPlatformFile* GetLowerLevel() override { return Below; }
+	virtual void SetLowerLevel(IPlatformFile* NewLowerLevel) override { Below = NewLowerLevel; }
+	virtual void Tick() override { ++TickCount; }
 	virtual const TCHAR* GetName() const override { return TEXT("LowerLayerDouble"); }
 
 	virtual bool FileExists(const TCHAR* Filename) override { return Files.count(Key(Filename)) != 0; }

@@ -186,3 +186,40 @@ TEST_F(FSuperPlatformFileTest, OnTopOfTheChainTheEnginesFileServicesSeeTheLowerL
 	FPlatformFileManager::Get().SetPlatformFile(*Layer.GetLowerLevel());
 	EXPECT_FALSE(FPaths::FileExists(TEXT("C:/Game/Lower.txt")));
 }
+
+// The manager walks the chain through GetLowerLevel(), so below the layer it finds the disk, never the
+// layer the module put it on.
+TEST_F(FSuperPlatformFileTest, FindingLayersInTheChainReachesThePhysicalLayerButNotTheInnerOne)
+{
+	FPlatformFileManager::Get().SetPlatformFile(Layer);
+	EXPECT_EQ(FPlatformFileManager::Get().FindPlatformFile(TEXT("superPLATFORM")), &Layer);
+	EXPECT_EQ(FPlatformFileManager::Get().FindPlatformFile(TEXT("PhysicalFile")), &IPlatformFile::GetPlatformPhysical());
+	EXPECT_EQ(FPlatformFileManager::Get().FindPlatformFile(TEXT("LowerLayerDouble")), nullptr);
+}
+
+TEST_F(FSuperPlatformFileTest, TickingTheChainTicksTheLayersAboveButPassesTheInnerLayerBy)
+{
+	FLowerLayerDouble Above;
+	Above.SetLowerLevel(&Layer);
+	FPlatformFileManager::Get().SetPlatformFile(Above);
+	FPlatformFileManager::Get().TickActivePlatformFile();
+	EXPECT_EQ(Above.TickCount, 1);
+	EXPECT_EQ(Lower.TickCount, 0);
+}
+
+TEST_F(FSuperPlatformFileTest, RemovingTheLayerFromTheTopLeavesThePhysicalLayerThere)
+{
+	FPlatformFileManager::Get().SetPlatformFile(Layer);
+	FPlatformFileManager::Get().RemovePlatformFile(&Layer);
+	EXPECT_EQ(&FPlatformFileManager::Get().GetPlatformFile(), &IPlatformFile::GetPlatformPhysical());
+}
+
+TEST_F(FSuperPlatformFileTest, RemovingTheLayerBelowAnotherJoinsThatOneToThePhysicalLayer)
+{
+	FLowerLayerDouble Above;
+	Above.SetLowerLevel(&Layer);
+	FPlatformFileManager::Get().SetPlatformFile(Above);
+	FPlatformFileManager::Get().RemovePlatformFile(&Layer);
+	EXPECT_EQ(&FPlatformFileManager::Get().GetPlatformFile(), &Above);
+	EXPECT_EQ(Above.GetLowerLevel(), &IPlatformFile::GetPlatformPhysical());
+}

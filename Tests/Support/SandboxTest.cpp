@@ -58,6 +58,15 @@ void FSandboxTest::WriteFile(const std::string& WindowsPath, const std::string& 
 	std::ofstream(Path, std::ios::binary) << Bytes;
 }
 
+void FSandboxTest::InstallStyleImages() const
+{
+	for (const char* Icon : {"CreateUGC_64x.png", "PackageUGC_64x.png", "DistributeUGC_64x.png"})
+	{
+		WriteFile(std::string("C:/Work/Moravane/Resources/") + Icon, ReadHostFile(fs::path(RESOURCES_DIR) / Icon));
+	}
+	WriteFile("C:/Work/Engine/Content/Slate/Checkerboard.png", ReadHostFile(fs::path(RESOURCES_DIR) / "Icon128.png"));
+}
+
 std::string FSandboxTest::ReadFile(const std::string& WindowsPath) const
 {
 	return ReadHostFile(Host(WindowsPath));

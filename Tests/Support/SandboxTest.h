@@ -31,6 +31,10 @@ protected:
 	StandIn::FWorld DefaultWorld() const;
 	void ResetWorld(const StandIn::FWorld& World);
 
+	// The images an installed editor has for the module's style set: the project's Resources, copied from
+	// the repository as a game project gets them, and the checkerboard of every style set's default brush.
+	void InstallStyleImages() const;
+
 	std::filesystem::path Host(const std::string& WindowsPath) const;
 	void WriteFile(const std::string& WindowsPath, const std::string& Bytes) const;
 	std::string ReadFile(const std::string& WindowsPath) const;

@@ -9,4 +9,7 @@ public:
 	virtual ~FSlateApplicationBase() {}
 
 	FSlateRenderer* GetRenderer() const;
+
+	static FSlateApplicationBase& Get();
+	static bool IsInitialized();
 };

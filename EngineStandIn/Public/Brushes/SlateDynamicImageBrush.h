@@ -9,5 +9,6 @@ struct SLATECORE_API FSlateDynamicImageBrush : public FSlateBrush, public TShare
 	FSlateDynamicImageBrush(const FName InTextureName, const FVector2D& InImageSize, const FLinearColor& InTint = FLinearColor(1.0f, 1.0f, 1.0f, 1.0f), ESlateBrushTileType::Type InTiling = ESlateBrushTileType::NoTile, ESlateBrushImageType::Type InImageType = ESlateBrushImageType::FullColor)
 		: FSlateBrush(ESlateBrushDrawType::Image, InTextureName, InTiling, InImageType, InImageSize, InTint)
 	{
+		bIsDynamicallyLoaded = true;
 	}
 };

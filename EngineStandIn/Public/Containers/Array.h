@@ -48,10 +48,11 @@ public:
 		Items.emplace_back(std::forward<ArgsType>(Args)...);
 		return Num() - 1;
 	}
-	int32 AddDefaulted()
+	int32 AddDefaulted(int32 Count = 1)
 	{
-		Items.emplace_back();
-		return Num() - 1;
+		const int32 Index = Num();
+		Items.resize(Items.size() + (size_t)Count);
+		return Index;
 	}
 	// The reference stays valid until the array grows beyond what it has reserved.
 	ElementType& AddDefaulted_GetRef()
@@ -67,10 +68,11 @@ public:
 	}
 	void Reserve(int32 Number) { Items.reserve((size_t)Number); }
 	void Append(const TArray& Other) { Items.insert(Items.end(), Other.Items.begin(), Other.Items.end()); }
-	void Insert(const ElementType& Item, int32 Index)
+	int32 Insert(const ElementType& Item, int32 Index)
 	{
 		check(Index >= 0 && Index <= Num());
 		Items.insert(Items.begin() + Index, Item);
+		return Index;
 	}
 	void RemoveAt(int32 Index)
 	{

@@ -72,8 +72,16 @@ public:
 	const TCHAR* operator*() const { return Data.c_str(); }
 	int32 Len() const { return (int32)Data.size(); }
 	bool IsEmpty() const { return Data.empty(); }
-	void Empty() { Data.clear(); }
-	void Reset() { Data.clear(); }
+	void Empty(int32 Slack = 0)
+	{
+		Data.clear();
+		Data.reserve((size_t)Slack);
+	}
+	void Reset(int32 NewReservedSize = 0)
+	{
+		Data.clear();
+		Data.reserve((size_t)NewReservedSize);
+	}
 	TCHAR& operator[](int32 Index)
 	{
 		check(Index >= 0 && Index < Len());
@@ -147,7 +155,8 @@ public:
 	bool StartsWith(const FString& Prefix, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const;
 	bool EndsWith(const FString& Suffix, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const;
 
-	FString Replace(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const;
+	FString Replace(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const&;
+	FString Replace(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) && { return static_cast<const FString&>(*this).Replace(From, To, SearchCase); }
 	int32 ReplaceInline(const TCHAR* SearchText, const TCHAR* ReplacementText, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
 
 	int32 ParseIntoArray(TArray<FString>& OutArray, const TCHAR* pchDelim, bool InCullEmpty = true) const;
@@ -155,16 +164,24 @@ public:
 	void TrimStartAndEndInline();
 	void TrimStartInline();
 	void TrimEndInline();
-	UE_NODISCARD FString TrimStartAndEnd() const
+	FString TrimStartAndEnd() const&
 	{
 		FString Result(*this);
 		Result.TrimStartAndEndInline();
 		return Result;
 	}
+	FString TrimStartAndEnd() &&
+	{
+		TrimStartAndEndInline();
+		return std::move(*this);
+	}
 
-	FString Left(int32 Count) const;
-	FString Mid(int32 Start, int32 Count = 0x7fffffff) const;
-	FString Right(int32 Count) const;
+	FString Left(int32 Count) const&;
+	FString Left(int32 Count) && { return static_cast<const FString&>(*this).Left(Count); }
+	FString Mid(int32 Start, int32 Count = 0x7fffffff) const&;
+	FString Mid(int32 Start, int32 Count = 0x7fffffff) && { return static_cast<const FString&>(*this).Mid(Start, Count); }
+	FString Right(int32 Count) const&;
+	FString Right(int32 Count) && { return static_cast<const FString&>(*this).Right(Count); }
 
 	static FString Join(const TArray<FString>& Items, const TCHAR* Separator);
 

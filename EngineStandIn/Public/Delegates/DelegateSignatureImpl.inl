@@ -123,7 +123,7 @@ public:
 	template <typename FunctorType, typename... VarTypes>
 	FDelegateHandle AddLambda(FunctorType&& InFunctor, VarTypes... Vars)
 	{
-		const FDelegateHandle Handle = StandInDelegateHandle::Next();
+		const FDelegateHandle Handle(FDelegateHandle::GenerateNewHandle);
 		Bindings.push_back({Handle, FDelegate::CreateLambda(std::forward<FunctorType>(InFunctor), Vars...)});
 		return Handle;
 	}

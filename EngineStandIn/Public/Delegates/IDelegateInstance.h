@@ -6,28 +6,29 @@
 class FDelegateHandle
 {
 public:
+	enum EGenerateNewHandleType
+	{
+		GenerateNewHandle
+	};
+
 	FDelegateHandle()
 		: ID(0) {}
+
+	explicit FDelegateHandle(EGenerateNewHandleType)
+		: ID(GenerateNewID()) {}
 
 	bool IsValid() const { return ID != 0; }
 	void Reset() { ID = 0; }
 
-	bool operator==(const FDelegateHandle& Other) const { return ID == Other.ID; }
-	bool operator!=(const FDelegateHandle& Other) const { return ID != Other.ID; }
-
 private:
-	friend struct StandInDelegateHandle;
+	friend bool operator==(const FDelegateHandle& Lhs, const FDelegateHandle& Rhs) { return Lhs.ID == Rhs.ID; }
+	friend bool operator!=(const FDelegateHandle& Lhs, const FDelegateHandle& Rhs) { return Lhs.ID != Rhs.ID; }
 
-	uint64_t ID;
-};
-
-struct StandInDelegateHandle
-{
-	static FDelegateHandle Next()
+	static uint64 GenerateNewID()
 	{
-		static uint64_t LastID = 0;
-		FDelegateHandle Handle;
-		Handle.ID = ++LastID;
-		return Handle;
+		static uint64 LastID = 0;
+		return ++LastID;
 	}
+
+	uint64 ID;
 };

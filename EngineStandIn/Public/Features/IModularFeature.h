@@ -4,6 +4,4 @@
 
 class IModularFeature
 {
-public:
-	virtual ~IModularFeature() {}
 };

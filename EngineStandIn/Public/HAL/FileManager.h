@@ -20,10 +20,12 @@ enum EFileWrite
 
 class CORE_API IFileManager
 {
+protected:
+	IFileManager() {}
+
 public:
 	// Every operation goes through the top of the platform-file chain.
 	static IFileManager& Get();
-	virtual ~IFileManager() {}
 
 	virtual bool FileExists(const TCHAR* Filename) = 0;
 	virtual bool DirectoryExists(const TCHAR* InDirectory) = 0;

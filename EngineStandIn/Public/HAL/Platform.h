@@ -8,6 +8,7 @@
 
 typedef uint8_t uint8;
 typedef uint32_t uint32;
+typedef uint64_t uint64;
 typedef int32_t int32;
 typedef int64_t int64;
 typedef char ANSICHAR;

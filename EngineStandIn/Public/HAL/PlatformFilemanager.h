@@ -6,12 +6,16 @@ class IPlatformFile;
 
 class CORE_API FPlatformFileManager
 {
+	// The top of the chain; each layer reaches the next through GetLowerLevel().
+	class IPlatformFile* TopmostPlatformFile;
+
 public:
-	static FPlatformFileManager& Get();
-	// The top of the platform-file chain.
+	FPlatformFileManager();
 	IPlatformFile& GetPlatformFile();
 	void SetPlatformFile(IPlatformFile& NewTopmostPlatformFile);
-
-private:
-	IPlatformFile* TopmostPlatformFile = nullptr;
+	IPlatformFile* FindPlatformFile(const TCHAR* Name);
+	void TickActivePlatformFile();
+	void InitializeNewAsyncIO();
+	static FPlatformFileManager& Get();
+	void RemovePlatformFile(IPlatformFile* PlatformFileToRemove);
 };

@@ -2,6 +2,8 @@
 
 #include "CoreMinimal.h"
 
+class ISlateStyle;
+
 class SLATECORE_API FSlateRenderer
 {
 public:
@@ -9,6 +11,9 @@ public:
 
 	// Loads every texture again from its file.
 	virtual void ReloadTextureResources() {}
+
+	// Loads the images of the style's brushes, each file once.
+	virtual void LoadStyleResources(const ISlateStyle& Style) {}
 
 	// Loads the image file that the name gives; its size, or 0 by 0 when it does not load.
 	virtual FIntPoint GenerateDynamicImageResource(const FName InTextureName)

@@ -26,6 +26,7 @@ public:
 	}
 
 	virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const = 0;
+	virtual void GetResources(TArray<const FSlateBrush*>& OutResources) const = 0;
 	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const = 0;
 
 	static FName Join(FName A, const ANSICHAR* B);

@@ -49,9 +49,12 @@ public:
 	ESlateBrushImageType::Type GetImageType() const { return ImageType; }
 	ESlateBrushDrawType::Type GetDrawType() const { return DrawAs; }
 	const FName GetResourceName() const { return ResourceName; }
+	bool IsDynamicallyLoaded() const { return bIsDynamicallyLoaded; }
 
 protected:
 	FName ResourceName;
+	// Its image is made at run time; the renderer does not load it with the style.
+	uint8 bIsDynamicallyLoaded : 1;
 
 public:
 	ESlateBrushDrawType::Type DrawAs;
@@ -60,7 +63,7 @@ public:
 
 protected:
 	FSlateBrush(ESlateBrushDrawType::Type InDrawType, const FName InResourceName, ESlateBrushTileType::Type InTiling, ESlateBrushImageType::Type InImageType, const FVector2D& InImageSize, const FLinearColor& InTint = FLinearColor::White)
-		: ImageSize(InImageSize), TintColor(InTint), ResourceName(InResourceName), DrawAs(InDrawType), Tiling(InTiling), ImageType(InImageType)
+		: ImageSize(InImageSize), TintColor(InTint), ResourceName(InResourceName), bIsDynamicallyLoaded(false), DrawAs(InDrawType), Tiling(InTiling), ImageType(InImageType)
 	{
 	}
 };

@@ -10,7 +10,7 @@ struct FSlateColor
 	FSlateColor(const FLinearColor& InColor)
 		: SpecifiedColor(InColor) {}
 
-	const FLinearColor& GetSpecifiedColor() const { return SpecifiedColor; }
+	FLinearColor GetSpecifiedColor() const { return SpecifiedColor; }
 
 private:
 	FLinearColor SpecifiedColor;

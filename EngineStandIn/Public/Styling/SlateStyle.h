@@ -21,6 +21,7 @@ public:
 	// The content root joined with the path, then the extension as it is given.
 	virtual FString RootToContentDir(const TCHAR* RelativePath, const TCHAR* Extension);
 
+	virtual void GetResources(TArray<const FSlateBrush*>& OutResources) const override;
 	virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const override;
 	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const override;
 

@@ -59,7 +59,7 @@ public:
 	TSharedPtr(const SharedPointerInternals::FRawPtrProxy<OtherType>& Proxy);
 
 	ObjectType* Get() const { return Impl.get(); }
-	bool IsValid() const { return Impl != nullptr; }
+	const bool IsValid() const { return Impl != nullptr; }
 	explicit operator bool() const { return IsValid(); }
 	ObjectType& operator*() const
 	{
@@ -72,15 +72,9 @@ public:
 		return Impl.get();
 	}
 	void Reset() { Impl.reset(); }
-	bool IsUnique() const { return Impl.use_count() == 1; }
-	TSharedRef<ObjectType, Mode> ToSharedRef() const;
-
-	template <class OtherType>
-	bool operator==(const TSharedPtr<OtherType, Mode>& Other) const { return Impl == Other.Impl; }
-	template <class OtherType>
-	bool operator!=(const TSharedPtr<OtherType, Mode>& Other) const { return Impl != Other.Impl; }
-	bool operator==(std::nullptr_t) const { return Impl == nullptr; }
-	bool operator!=(std::nullptr_t) const { return Impl != nullptr; }
+	const bool IsUnique() const { return Impl.use_count() == 1; }
+	TSharedRef<ObjectType, Mode> ToSharedRef() const&;
+	TSharedRef<ObjectType, Mode> ToSharedRef() && { return static_cast<const TSharedPtr&>(*this).ToSharedRef(); }
 
 private:
 	template <class, ESPMode>
@@ -113,11 +107,6 @@ public:
 	ObjectType& operator*() const { return *Impl; }
 	ObjectType* operator->() const { return Impl.get(); }
 
-	template <class OtherType>
-	bool operator==(const TSharedRef<OtherType, Mode>& Other) const { return Impl == Other.Impl; }
-	template <class OtherType>
-	bool operator!=(const TSharedRef<OtherType, Mode>& Other) const { return Impl != Other.Impl; }
-
 private:
 	template <class, ESPMode>
 	friend class TSharedPtr;
@@ -145,8 +134,9 @@ public:
 	TWeakPtr(const TSharedRef<OtherType, Mode>& Other)
 		: Impl(Other.Impl) {}
 
-	TSharedPtr<ObjectType, Mode> Pin() const { return TSharedPtr<ObjectType, Mode>(Impl.lock()); }
-	bool IsValid() const { return !Impl.expired(); }
+	TSharedPtr<ObjectType, Mode> Pin() const& { return TSharedPtr<ObjectType, Mode>(Impl.lock()); }
+	TSharedPtr<ObjectType, Mode> Pin() && { return TSharedPtr<ObjectType, Mode>(Impl.lock()); }
+	const bool IsValid() const { return !Impl.expired(); }
 
 private:
 	friend struct StandInSharedPointer::FAccess;
@@ -231,7 +221,7 @@ TSharedPtr<ObjectType, Mode>::TSharedPtr(const SharedPointerInternals::FRawPtrPr
 }
 
 template <class ObjectType, ESPMode Mode>
-TSharedRef<ObjectType, Mode> TSharedPtr<ObjectType, Mode>::ToSharedRef() const
+TSharedRef<ObjectType, Mode> TSharedPtr<ObjectType, Mode>::ToSharedRef() const&
 {
 	check(IsValid());
 	return TSharedRef<ObjectType, Mode>(Impl);
@@ -283,4 +273,66 @@ template <class ToType, class FromType, ESPMode Mode>
 TSharedRef<ToType, Mode> ConstCastSharedRef(const TSharedRef<FromType, Mode>& InRef)
 {
 	return StandInSharedPointer::FAccess::MakeRef<ToType, Mode>(std::const_pointer_cast<ToType>(StandInSharedPointer::FAccess::Get(InRef)));
+}
+
+// Shared pointers compare by the object they point at, as free functions of any two pointee types.
+template <class ObjectTypeA, class ObjectTypeB, ESPMode Mode>
+bool operator==(const TSharedRef<ObjectTypeA, Mode>& InSharedRefA, const TSharedRef<ObjectTypeB, Mode>& InSharedRefB)
+{
+	return &(InSharedRefA.Get()) == &(InSharedRefB.Get());
+}
+template <class ObjectTypeA, class ObjectTypeB, ESPMode Mode>
+bool operator!=(const TSharedRef<ObjectTypeA, Mode>& InSharedRefA, const TSharedRef<ObjectTypeB, Mode>& InSharedRefB)
+{
+	return &(InSharedRefA.Get()) != &(InSharedRefB.Get());
+}
+template <class ObjectTypeA, class ObjectTypeB, ESPMode Mode>
+bool operator==(const TSharedPtr<ObjectTypeA, Mode>& InSharedPtrA, const TSharedPtr<ObjectTypeB, Mode>& InSharedPtrB)
+{
+	return InSharedPtrA.Get() == InSharedPtrB.Get();
+}
+template <class ObjectTypeA, class ObjectTypeB, ESPMode Mode>
+bool operator!=(const TSharedPtr<ObjectTypeA, Mode>& InSharedPtrA, const TSharedPtr<ObjectTypeB, Mode>& InSharedPtrB)
+{
+	return InSharedPtrA.Get() != InSharedPtrB.Get();
+}
+template <class ObjectTypeA, class ObjectTypeB, ESPMode Mode>
+bool operator==(const TSharedRef<ObjectTypeA, Mode>& InSharedRef, const TSharedPtr<ObjectTypeB, Mode>& InSharedPtr)
+{
+	return InSharedPtr.IsValid() && InSharedPtr.Get() == &(InSharedRef.Get());
+}
+template <class ObjectTypeA, class ObjectTypeB, ESPMode Mode>
+bool operator!=(const TSharedRef<ObjectTypeA, Mode>& InSharedRef, const TSharedPtr<ObjectTypeB, Mode>& InSharedPtr)
+{
+	return !(InSharedRef == InSharedPtr);
+}
+template <class ObjectTypeA, class ObjectTypeB, ESPMode Mode>
+bool operator==(const TSharedPtr<ObjectTypeA, Mode>& InSharedPtr, const TSharedRef<ObjectTypeB, Mode>& InSharedRef)
+{
+	return InSharedRef == InSharedPtr;
+}
+template <class ObjectTypeA, class ObjectTypeB, ESPMode Mode>
+bool operator!=(const TSharedPtr<ObjectTypeA, Mode>& InSharedPtr, const TSharedRef<ObjectTypeB, Mode>& InSharedRef)
+{
+	return !(InSharedRef == InSharedPtr);
+}
+template <class ObjectTypeA, ESPMode Mode>
+bool operator==(const TSharedPtr<ObjectTypeA, Mode>& InSharedPtrA, decltype(nullptr))
+{
+	return !InSharedPtrA.IsValid();
+}
+template <class ObjectTypeA, ESPMode Mode>
+bool operator==(decltype(nullptr), const TSharedPtr<ObjectTypeA, Mode>& InSharedPtrA)
+{
+	return !InSharedPtrA.IsValid();
+}
+template <class ObjectTypeA, ESPMode Mode>
+bool operator!=(const TSharedPtr<ObjectTypeA, Mode>& InSharedPtrA, decltype(nullptr))
+{
+	return InSharedPtrA.IsValid();
+}
+template <class ObjectTypeA, ESPMode Mode>
+bool operator!=(decltype(nullptr), const TSharedPtr<ObjectTypeA, Mode>& InSharedPtrA)
+{
+	return InSharedPtrA.IsValid();
 }

@@ -17,7 +17,7 @@ struct SLATECORE_API FSlateIcon
 	const FName& GetStyleName() const { return StyleName; }
 	const ISlateStyle* GetStyleSet() const;
 	const FName& GetStyleSetName() const { return StyleSetName; }
-	bool IsSet() const { return bIsSet; }
+	const bool IsSet() const { return bIsSet; }
 
 private:
 	FName StyleSetName;

@@ -19,8 +19,8 @@ public:
 		: Text(Name) {}
 
 	FString ToString() const { return Text; }
-	bool operator==(const FName& Other) const { return Text == Other.Text; }
-	bool operator!=(const FName& Other) const { return !(Text == Other.Text); }
+	bool operator==(FName Other) const { return Text == Other.Text; }
+	bool operator!=(FName Other) const { return !(Text == Other.Text); }
 
 private:
 	FString Text;

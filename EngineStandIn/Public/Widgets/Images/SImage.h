@@ -23,9 +23,11 @@ public:
 	// clang-format on
 
 	void Construct(const FArguments& InArgs);
-	virtual FChildren* GetChildren() override { return &NoChildren; }
 
 private:
+	// A leaf of the tree: the engine keeps this out of reach of callers.
+	virtual FChildren* GetChildren() override final { return &NoChildren; }
+
 	friend class StandIn::FImageInspector;
 
 	TAttribute<const FSlateBrush*> Image;

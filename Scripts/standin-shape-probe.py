@@ -1,0 +1,354 @@
+#!/usr/bin/env python3
+"""Writes a C++ probe that uses every declaration of the stand-in engine's public headers the way the module
+could: each class, its bases, public and protected members with their exact types (static or not, virtual or
+not), free functions, enumerators, type aliases, variables and macros.
+
+Compiled against the real engine headers, every error of the probe is a stand-in declaration that UE 4.26 lacks
+or declares in another shape. Usage: standin-shape-probe.py <stand-in Public folder> <clang JSON AST> <probe.cpp>
+The AST is clang's -ast-dump=json of one file that includes every public header of the stand-in."""
+import json
+import os
+import re
+import sys
+
+PUBLIC_DIR = os.path.realpath(sys.argv[1])
+AST_PATH = sys.argv[2]
+PROBE_PATH = sys.argv[3]
+DETAIL_NAMESPACE = "StandIn"
+# The arguments with which the probe instantiates each class template whose members it uses.
+TEMPLATE_ARGUMENTS = {
+	"TSharedPtr": "SWidget, ESPMode::Fast", "TSharedRef": "SWidget, ESPMode::Fast", "TWeakPtr": "SWidget, ESPMode::Fast",
+	"TSharedFromThis": "SWidget, ESPMode::Fast", "TArray": "FString", "TMap": "FString, int32", "TOptional": "FString",
+	"TAttribute": "FText", "TUniquePtr": "FString", "TCommands": "FProbeCommands", "SComboBox": "TSharedPtr<FString>",
+	"TStringView": "TCHAR",
+}
+
+
+class Probe:
+	def __init__(self):
+		self.lines = []
+		self.count = 0
+		self.unprobed = []
+
+	def add(self, origin, code):
+		"""One check; the comment before it names the declaration, so that a compiler error points at it."""
+		self.count += 1
+		self.lines.append("// %s" % origin)
+		self.lines.append(code)
+
+
+def split_function_type(qual_type):
+	"""'R (P1, P2) const &' -> ('R', 'P1, P2', 'const &'); None for a type that is not a function type."""
+	qual_type = qual_type.replace(" noexcept", "")
+	end = qual_type.rfind(")")
+	if end < 0:
+		return None
+	depth = 0
+	for i in range(end, -1, -1):
+		depth += {")": 1, "(": -1}.get(qual_type[i], 0)
+		if depth == 0:
+			return qual_type[:i].strip(), qual_type[i + 1:end].strip(), qual_type[end + 1:].strip()
+	return None
+
+
+def split_parameters(parameters):
+	"""'A, TMap<B, C>, D' -> ['A', 'TMap<B, C>', 'D']; 'void' and '' -> []."""
+	result, depth, current = [], 0, ""
+	for character in parameters:
+		depth += {"<": 1, "(": 1, ">": -1, ")": -1}.get(character, 0)
+		if character == "," and depth == 0:
+			result.append(current.strip())
+			current = ""
+		else:
+			current += character
+	if current.strip() and current.strip() != "void":
+		result.append(current.strip())
+	return result
+
+
+class Walker:
+	def __init__(self, probe):
+		self.probe = probe
+		self.file = None
+		self.serial = 0
+		self.unprobed_templates = []
+
+	def track(self, node):
+		"""clang writes a location's file only where it changes, so the file of a node is the last one written."""
+		if isinstance(node, dict):
+			for key, value in node.items():
+				if key == "file":
+					self.file = value
+				elif key in ("loc", "range", "begin", "end", "spellingLoc", "expansionLoc"):
+					self.track(value)
+
+	def in_stand_in(self):
+		return self.file is not None and os.path.realpath(self.file).startswith(PUBLIC_DIR + os.sep)
+
+	def serial_next(self):
+		self.serial += 1
+		return self.serial
+
+	def name(self):
+		self.serial += 1
+		return "Probe%d" % self.serial
+
+	def origin(self, qualified):
+		return "%s (%s)" % (qualified, os.path.relpath(os.path.realpath(self.file), PUBLIC_DIR))
+
+	def walk(self, nodes, scope):
+		for node in nodes:
+			self.track(node.get("loc"))
+			self.track(node.get("range"))
+			if node.get("isImplicit"):
+				self.skip(node)
+				continue
+			kind = node.get("kind")
+			if kind == "NamespaceDecl" and node.get("name", "").startswith(DETAIL_NAMESPACE):
+				# The stand-in's own implementation detail: not engine API, and no name the module would write.
+				self.skip(node)
+				continue
+			if kind == "NamespaceDecl":
+				self.walk(node.get("inner", []), scope + [node.get("name", "")])
+				continue
+			if kind == "LinkageSpecDecl":
+				self.walk(node.get("inner", []), scope)
+				continue
+			if not self.in_stand_in() or "parentDeclContextId" in node:
+				# Out-of-line definitions of members were probed with their class.
+				self.skip(node)
+				continue
+			self.declaration(node, scope)
+
+	def skip(self, node):
+		for child in node.get("inner", []):
+			if isinstance(child, dict):
+				self.track(child.get("loc"))
+				self.track(child.get("range"))
+				self.skip(child)
+
+	def qualify(self, scope, name):
+		return "::" + "::".join([s for s in scope if s] + [name])
+
+	def declaration(self, node, scope):
+		kind, name = node.get("kind"), node.get("name")
+		if kind == "CXXRecordDecl" and node.get("completeDefinition") and name:
+			self.record(node, scope)
+		elif kind == "ClassTemplateDecl":
+			qualified = self.qualify(scope, name)
+			parameters = self.template_parameters(node)
+			pattern = next((c for c in node.get("inner", []) if c.get("kind") == "CXXRecordDecl"), None)
+			if name in TEMPLATE_ARGUMENTS and pattern is not None and pattern.get("completeDefinition"):
+				self.record(pattern, scope, self.template_context(node, TEMPLATE_ARGUMENTS[name]))
+			elif pattern is not None and pattern.get("completeDefinition"):
+				self.unprobed_templates.append(self.origin(qualified))
+			if parameters is not None:
+				probe = self.name()
+				self.probe.add(self.origin(qualified), "template <template <%s> class> struct %s {};\nstatic %s<%s>* %sUse;"
+				               % (parameters, probe, probe, qualified, probe))
+			self.skip(node)
+		elif kind == "FunctionDecl":
+			qualified = self.qualify(scope, name)
+			parts = split_function_type(node["type"]["qualType"])
+			self.probe.add(self.origin(qualified), "static auto %s = static_cast<%s (*)(%s)>(&%s);"
+			               % (self.name(), parts[0], parts[1], qualified))
+			self.skip(node)
+		elif kind == "FunctionTemplateDecl":
+			qualified = self.qualify(scope, name)
+			self.probe.add(self.origin(qualified), "namespace %s { using %s; }" % (self.name(), qualified))
+			self.skip(node)
+		elif kind == "EnumDecl" and name:
+			self.enum(node, scope)
+		elif kind in ("TypedefDecl", "TypeAliasDecl", "TypeAliasTemplateDecl"):
+			qualified = self.qualify(scope, name)
+			if kind == "TypeAliasTemplateDecl":
+				self.probe.add(self.origin(qualified), "namespace %s { using %s; }" % (self.name(), qualified))
+			else:
+				self.probe.add(self.origin(qualified), "using %s = %s;" % (self.name(), qualified))
+			self.skip(node)
+		elif kind == "VarDecl":
+			qualified = self.qualify(scope, name)
+			self.probe.add(self.origin(qualified), "static_assert(std::is_same<decltype(%s), %s>::value, \"\");"
+			               % (qualified, node["type"]["qualType"]))
+			self.skip(node)
+		else:
+			self.skip(node)
+
+	def template_context(self, node, arguments):
+		"""How a probe template spells the class template's parameters, their names, and its instantiation."""
+		declared, names = [], []
+		for child in node.get("inner", []):
+			kind = child.get("kind")
+			if kind not in ("TemplateTypeParmDecl", "NonTypeTemplateParmDecl"):
+				continue
+			name = child.get("name") or "Parameter%d" % len(names)
+			pack = "..." if child.get("isParameterPack") else ""
+			declared.append(("typename%s %s" if kind == "TemplateTypeParmDecl" else child["type"]["qualType"] + "%s %s") % (pack, name))
+			names.append(name + pack)
+		return ", ".join(declared), ", ".join(names), arguments
+
+	def template_parameters(self, node):
+		"""The template's parameter list as a template template parameter spells it; None for a template parameter."""
+		parameters = []
+		for child in node.get("inner", []):
+			kind = child.get("kind")
+			if kind == "TemplateTypeParmDecl":
+				parameters.append("typename..." if child.get("isParameterPack") else "typename")
+			elif kind == "NonTypeTemplateParmDecl":
+				parameters.append(child["type"]["qualType"] + ("..." if child.get("isParameterPack") else ""))
+			elif kind == "TemplateTemplateParmDecl":
+				return None
+		return ", ".join(parameters)
+
+	def enum(self, node, scope):
+		qualified = self.qualify(scope, node["name"])
+		self.probe.add(self.origin(qualified), "using %s = %s;" % (self.name(), qualified))
+		scoped = node.get("scopedEnumTag") is not None
+		for child in node.get("inner", []):
+			self.track(child.get("loc"))
+			self.track(child.get("range"))
+			if child.get("kind") == "EnumConstantDecl":
+				enumerator = (qualified if scoped else self.qualify(scope, "")[:-2]) + "::" + child["name"]
+				self.probe.add(self.origin(enumerator), "static_assert(sizeof(%s) > 0, \"\");" % enumerator)
+			self.skip(child)
+
+	def record(self, node, scope, template=None):
+		qualified = self.qualify(scope, node["name"])
+		definition = node.get("definitionData", {})
+		final = any(a.get("kind") == "FinalAttr" for a in node.get("inner", []))
+		members = []
+		if template:
+			qualified += "<%s>" % template[1]
+		else:
+			self.probe.add(self.origin(qualified), "using %s = %s;" % (self.name(), qualified))
+		for base in node.get("bases", []):
+			if base.get("access") == "public":
+				members.append((self.origin(qualified + " : " + base["type"]["qualType"]),
+				                "static_assert(std::is_base_of<%s, Self>::value, \"\");" % base["type"]["qualType"]))
+		nested_types = []
+		access = "public" if node.get("tagUsed") in ("struct", "union") else "private"
+		for child in node.get("inner", []):
+			self.track(child.get("loc"))
+			self.track(child.get("range"))
+			kind = child.get("kind")
+			if kind == "AccessSpecDecl":
+				access = child["access"]
+				continue
+			if child.get("isImplicit") or access == "private":
+				self.skip(child)
+				continue
+			if kind in ("CXXRecordDecl", "EnumDecl", "ClassTemplateDecl", "TypedefDecl", "TypeAliasDecl"):
+				if template:
+					# Nested names of a class template are dependent: the probe names them through its base.
+					if kind in ("TypedefDecl", "TypeAliasDecl", "CXXRecordDecl", "EnumDecl") and child.get("name"):
+						nested_types.append(child["name"])
+					self.skip(child)
+					continue
+				if kind == "CXXRecordDecl" and not child.get("completeDefinition"):
+					self.skip(child)
+					continue
+				self.declaration(child, scope + [node["name"]])
+				continue
+			if child.get("explicitlyDeleted") or "auto" in child.get("type", {}).get("qualType", ""):
+				self.skip(child)
+				continue
+			member = self.member(child, qualified, definition, access)
+			if member and template:
+				# The injected class name means the instantiated class, which the probe calls Self; its nested
+				# types are the probe's aliases.
+				code = re.sub(r"\b%s::" % node["name"], "", member[1])
+				member = (member[0], re.sub(r"\b%s\b(?!\s*<)" % node["name"], "Self", code))
+			members.append(member)
+			self.skip(child)
+		members = [m for m in members if m]
+		if not members:
+			return
+		if final and not template:
+			for origin, code in members:
+				self.probe.add(origin, "static void %s() { %s }" % (self.name(), code.replace("Self::", qualified + "::")))
+			return
+		# Inside a class derived from the probed one, its nested names and protected members are in reach as
+		# they are for a module class that derives from it.
+		probe = self.name()
+		body = [self.probe_body_line(origin, code.replace("&Self::", "&%s::" % probe).replace("&%s::operator=" % probe, "&Self::operator=").replace("decltype(Self::", "decltype(%s::" % probe)) for origin, code in members]
+		self.probe.count += len(members)
+		aliases = "".join("\tusing %s = typename Self::%s;\n" % (n, n) for n in nested_types)
+		self.probe.lines.append("%sstruct %s : %s\n{\n\tusing Self = %s;\n%s\tstatic void Uses()\n\t{\n%s\n\t}\n};%s"
+		                        % ("template <%s>\n" % template[0] if template else "", probe, qualified, qualified, aliases,
+		                           "\n".join(body), "\ntemplate struct %s<%s>;" % (probe, template[2]) if template else ""))
+
+	def probe_body_line(self, origin, code):
+		return "\t\t// %s\n\t\t%s" % (origin, code)
+
+	def member(self, child, qualified, definition, access):
+		kind, name = child.get("kind"), child.get("name")
+		origin = self.origin(qualified + "::" + (name or kind))
+		if kind in ("CXXMethodDecl", "CXXConversionDecl"):
+			parts = split_function_type(child["type"]["qualType"])
+			if name == "operator=" and access != "public":
+				return None
+			if name == "operator=":
+				# Named through the probe, the assignment would be the probe's own.
+				code = "(void)static_cast<%s (Self::*)(%s) %s>(&Self::operator=);" % parts
+			elif child.get("storageClass") == "static":
+				code = "(void)static_cast<%s (*)(%s)>(&Self::%s);" % (parts[0], parts[1], name)
+			else:
+				code = "(void)static_cast<%s (Self::*)(%s) %s>(&Self::%s);" % (parts[0], parts[1], parts[2], name)
+			if child.get("virtual"):
+				code += " struct Override%d : Self { %s %s(%s) %s override; };" % (self.serial_next(), parts[0], name, parts[1], parts[2])
+			return origin, code
+		if kind == "CXXConstructorDecl":
+			# A class deriving from it calls the constructor, which works for abstract classes and protected
+			# constructors as a module's derived class would.
+			parameters = split_parameters(split_function_type(child["type"]["qualType"])[1])
+			serial = self.serial_next()
+			declared = ", ".join("%s Argument%d" % (p, i) for i, p in enumerate(parameters))
+			forwarded = ", ".join("static_cast<decltype(Argument%d)&&>(Argument%d)" % (i, i) for i in range(len(parameters)))
+			return origin, "struct Construct%d : Self { Construct%d(%s) : Self(%s) {} };" % (serial, serial, declared, forwarded)
+		if kind == "CXXDestructorDecl":
+			if child.get("virtual"):
+				return origin, "static_assert(std::has_virtual_destructor<Self>::value, \"\");"
+			return None
+		if kind == "FieldDecl":
+			return origin, "static_assert(std::is_same<decltype(Self::%s), %s>::value, \"\");" % (name, child["type"]["qualType"])
+		if kind == "VarDecl":
+			return origin, "static_assert(std::is_same<decltype(Self::%s), %s>::value, \"\");" % (name, child["type"]["qualType"])
+		if kind == "FunctionTemplateDecl" and any(c.get("kind") == "CXXConstructorDecl" for c in child.get("inner", [])):
+			return None
+		if kind in ("FunctionTemplateDecl", "UsingDecl"):
+			return origin, "struct Using%d : Self { using Self::%s; };" % (self.serial_next(), name or kind)
+		return None
+
+
+def macros(probe):
+	for folder, _, files in sorted(os.walk(PUBLIC_DIR)):
+		for file in sorted(files):
+			path = os.path.join(folder, file)
+			with open(path, encoding="utf-8") as handle:
+				text = handle.read()
+			for name in re.findall(r"^\s*#\s*define\s+(\w+)", text, re.M):
+				probe.add("macro %s (%s)" % (name, os.path.relpath(path, PUBLIC_DIR)),
+				          "#ifndef %s\n#error %s is not defined\n#endif" % (name, name))
+
+
+def main():
+	with open(AST_PATH, encoding="utf-8") as handle:
+		tree = json.load(handle)
+	probe = Probe()
+	walker = Walker(probe)
+	walker.walk(tree.get("inner", []), [])
+	macros(probe)
+	headers = []
+	for folder, _, files in sorted(os.walk(PUBLIC_DIR)):
+		headers += sorted(os.path.relpath(os.path.join(folder, f), PUBLIC_DIR) for f in files if f.endswith(".h"))
+	with open(PROBE_PATH, "w", encoding="utf-8") as out:
+		out.write("// Generated: uses every public declaration of the stand-in engine.\n")
+		out.write("".join('#include "%s"\n' % h for h in headers ))
+		out.write("#include <type_traits>\n\n")
+		out.write("struct FProbeCommands : TCommands<FProbeCommands>\n{\n\tFProbeCommands() : TCommands(TEXT(\"Probe\"), FText(), NAME_None, NAME_None) {}\n"
+		          "\tvirtual void RegisterCommands() override {}\n};\n\n")
+		out.write("\n".join(probe.lines) + "\n")
+	print("%d declarations probed; members not probed of the class templates %s" % (probe.count, ", ".join(walker.unprobed_templates)))
+
+
+main()
