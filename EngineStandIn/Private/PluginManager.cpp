@@ -241,6 +241,37 @@ namespace
 			}
 		}
 
+		virtual bool AddToPluginsList(const FString& PluginFilename) override
+		{
+			if (FindIn(AllPlugins, FPaths::GetBaseFilename(PluginFilename)))
+			{
+				return true;
+			}
+			FPluginDescriptor Descriptor;
+			FText FailureReason;
+			if (!Descriptor.Load(PluginFilename, FailureReason))
+			{
+				UE_LOG(LogPluginManager, Warning, TEXT("AddToPluginsList failed to load plugin %s. Reason: %s"), *PluginFilename, *FailureReason.ToString());
+				return false;
+			}
+			// The type comes from where the descriptor lies, judged by the start of its path as given.
+			EPluginType Type = EPluginType::External;
+			if (PluginFilename.StartsWith(FPaths::EngineDir()))
+			{
+				Type = EPluginType::Engine;
+			}
+			else if (PluginFilename.StartsWith(FPaths::ProjectDir() + TEXT("Mods/")))
+			{
+				Type = EPluginType::Mod;
+			}
+			else if (PluginFilename.StartsWith(FPaths::GetPath(FPaths::GetProjectFilePath())))
+			{
+				Type = EPluginType::Project;
+			}
+			AllPlugins.push_back(MakeShared<FPlugin>(PluginFilename, Descriptor, Type));
+			return true;
+		}
+
 		virtual TSharedPtr<IPlugin> FindPlugin(const FString& Name) override
 		{
 			TSharedRef<FPlugin>* Plugin = FindIn(AllPlugins, Name);

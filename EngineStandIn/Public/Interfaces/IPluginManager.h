@@ -50,6 +50,8 @@ public:
 
 	// Reads every plugin folder again; enabled plugins stay as they are, new ones are added.
 	virtual void RefreshPluginsList() = 0;
+	// Reads one plugin from its descriptor, not enabled; true too when a plugin of that name is known already.
+	virtual bool AddToPluginsList(const FString& PluginFilename) = 0;
 	// Null for a name it does not know.
 	virtual TSharedPtr<IPlugin> FindPlugin(const FString& Name) = 0;
 	virtual TArray<TSharedRef<IPlugin>> GetDiscoveredPlugins() = 0;

@@ -7,9 +7,14 @@
 
 #include "UGCPluginWizardDefinition.h"
 
+#include "GenericPlatform/GenericPlatformFile.h"
+#include "Interfaces/IPluginManager.h"
+#include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
+#include "PluginDescriptor.h"
 
-// A definition of its own for each case: it only reads the project's Templates and Resources folders.
+// A definition of its own for each case: it only reads the project's Templates and Resources folders. The
+// plugin it is told was created lies in a folder of the spec's own below the project's Intermediate folder.
 BEGIN_DEFINE_SPEC(FUGCPluginWizardDefinitionSpec, TEXT("UGCEditor.WizardDefinition"), EAutomationTestFlags::EditorContext | EAutomationTestFlags::EngineFilter)
 TSharedPtr<FUGCPluginWizardDefinition> Definition;
 
@@ -28,6 +33,18 @@ void PickTemplates(const TArray<FString>& DisplayNames)
 		}
 	}
 	Definition->OnTemplateSelectionChanged(Picked, ESelectInfo::OnMouseClick);
+}
+
+/** The stand-in for a plugin the wizard has just made, and whether a plugin of its name was known before. */
+const TCHAR* const CreatedPluginName = TEXT("UGCEditorSpecCreatedMod");
+FString SpecFolder;
+FString CreatedDescriptorFile;
+bool bNameWasTaken = false;
+
+FString CreatedPluginCategory() const
+{
+	const TSharedPtr<IPlugin> Plugin = IPluginManager::Get().FindPlugin(CreatedPluginName);
+	return Plugin.IsValid() ? Plugin->GetDescriptor().Category : FString();
 }
 
 static FString TemplateFolder(const TCHAR* FolderName)
@@ -96,6 +113,48 @@ void FUGCPluginWizardDefinitionSpec::Define()
 
 			TestEqual(TEXT("templates selected"), Definition->GetSelectedTemplates().Num(), 0);
 			TestEqual(TEXT("folders copied"), *FString::Join(Definition->GetFoldersForSelection(), TEXT(" | ")), *TemplateFolder(TEXT("BaseTemplate")));
+		});
+	});
+
+	Describe(TEXT("once the wizard has made a plugin"), [this]() {
+		BeforeEach([this]() {
+			SpecFolder = FPaths::ConvertRelativePathToFull(FPaths::ProjectIntermediateDir() / TEXT("UGCEditorSpecs"));
+			CreatedDescriptorFile = SpecFolder / CreatedPluginName / FString(CreatedPluginName) + TEXT(".uplugin");
+			// A plugin of the user's that bears the name is never touched.
+			bNameWasTaken = IPluginManager::Get().FindPlugin(CreatedPluginName).IsValid();
+			if (bNameWasTaken)
+			{
+				AddError(FString::Printf(TEXT("A plugin named %s is known already; the spec leaves it alone."), CreatedPluginName));
+				return;
+			}
+			const FString WizardDescriptor = TEXT("{ \"FileVersion\": 3, \"Version\": 1, \"VersionName\": \"1.0\", \"FriendlyName\": \"UGCEditorSpecCreatedMod\", \"Category\": \"Other\", \"CanContainContent\": true }");
+			TestTrue(TEXT("descriptor written"), FFileHelper::SaveStringToFile(WizardDescriptor, *CreatedDescriptorFile));
+			TestTrue(TEXT("plugin known to the editor"), IPluginManager::Get().AddToPluginsList(CreatedDescriptorFile));
+		});
+
+		AfterEach([this]() {
+			IPlatformFile::GetPlatformPhysical().DeleteDirectoryRecursively(*SpecFolder);
+			if (!bNameWasTaken)
+			{
+				// The editor forgets a plugin that is neither enabled nor on disk any more when it reads its plugin folders again.
+				IPluginManager::Get().RefreshPluginsList();
+			}
+		});
+
+		It(TEXT("should file it under the DLC category, in the editor and in its descriptor"), [this]() {
+			Definition->PluginCreated(CreatedPluginName, true);
+
+			TestEqual(TEXT("category the editor keeps"), *CreatedPluginCategory(), TEXT("DLC"));
+			FPluginDescriptor OnDisk;
+			FText FailReason;
+			TestTrue(TEXT("descriptor read back"), OnDisk.Load(CreatedDescriptorFile, FailReason));
+			TestEqual(TEXT("category on disk"), *OnDisk.Category, TEXT("DLC"));
+		});
+
+		It(TEXT("should leave it as the wizard wrote it when the creation failed"), [this]() {
+			Definition->PluginCreated(CreatedPluginName, false);
+
+			TestEqual(TEXT("category the editor keeps"), *CreatedPluginCategory(), TEXT("Other"));
 		});
 	});
 
