@@ -61,7 +61,7 @@ namespace StandInModules
 		Register(FName(ModuleName), InitializeModule);
 	}
 
-	std::vector<FName> LoadedModuleNames()
+	std::vector<FName> FModuleManagerAccess::LoadedModuleNames()
 	{
 		std::vector<FName> Names;
 		for (const FModuleManager::FLoadedModule& Loaded : FModuleManager::Get().LoadedModules)
@@ -77,7 +77,7 @@ namespace StandIn
 	std::vector<FString> LoadedModules()
 	{
 		std::vector<FString> Names;
-		for (const FName& Name : StandInModules::LoadedModuleNames())
+		for (const FName& Name : StandInModules::FModuleManagerAccess::LoadedModuleNames())
 		{
 			Names.push_back(Name.ToString());
 		}
@@ -87,7 +87,7 @@ namespace StandIn
 
 namespace StandInModules
 {
-	void UnloadAll()
+	void FModuleManagerAccess::UnloadAll()
 	{
 		std::vector<FModuleManager::FLoadedModule>& Loaded = FModuleManager::Get().LoadedModules;
 		while (!Loaded.empty())
@@ -105,7 +105,7 @@ namespace StandInModules
 
 	void StartEditorModules()
 	{
-		UnloadAll();
+		FModuleManagerAccess::UnloadAll();
 		LoadPluginModules();
 	}
 
@@ -144,7 +144,7 @@ namespace StandIn
 {
 	void LoadStartupModules()
 	{
-		StandInModules::UnloadAll();
+		StandInModules::FModuleManagerAccess::UnloadAll();
 		// Project modules of a phase start before the plugins' modules of that phase.
 		for (const FString& Name : StandInModules::DefaultPhaseProjectModules())
 		{

@@ -4,6 +4,7 @@
 #include "CoreMinimal.h"
 #include "Modules/ModuleInterface.h"
 #include <functional>
+#include <vector>
 
 namespace StandInModules
 {
@@ -15,6 +16,15 @@ namespace StandInModules
 
 	// A module outside the stand-in's own list becomes loadable by name.
 	void Register(const FName ModuleName, FInitializeModule Initializer);
+
+	// The module manager's own state, for the stand-in's services only.
+	class FModuleManagerAccess
+	{
+	public:
+		// Shuts every loaded module down and unloads it, the last loaded first.
+		static void UnloadAll();
+		static std::vector<FName> LoadedModuleNames();
+	};
 
 	// Shuts every loaded module down and unloads it, the last loaded first, then loads what the world's
 	// editor starts with.

@@ -7,8 +7,7 @@
 
 namespace StandInModules
 {
-	void UnloadAll();
-	std::vector<FName> LoadedModuleNames();
+	class FModuleManagerAccess;
 
 	// Made by IMPLEMENT_MODULE before main runs: the module becomes loadable by its name through its
 	// exported entry point, as a module binary on the engine's search path is.
@@ -41,8 +40,7 @@ public:
 	}
 
 private:
-	friend void StandInModules::UnloadAll();
-	friend std::vector<FName> StandInModules::LoadedModuleNames();
+	friend class StandInModules::FModuleManagerAccess;
 
 	FModuleManager();
 	~FModuleManager();
