@@ -36,16 +36,11 @@ TEST_F(FCreateModTabTest, ASecondCommandBringsTheOpenTabToTheFront)
 	EXPECT_EQ(&TabRecords()[1]->Tab.Get(), &TabRecords()[0]->Tab.Get());
 }
 
-TEST_F(FCreateModTabTest, TheTabIsRegisteredHiddenUnderItsTitle)
+TEST_F(FCreateModTabTest, TheTabIsRegisteredHiddenFromTheWindowMenu)
 {
 	FUGCCreator Creator;
-	const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->TryInvokeTab(FName(TEXT("UGCPluginCreator")));
 
-	ASSERT_TRUE(Tab.IsValid());
-	ASSERT_EQ(TabRecords().size(), 1u);
-	EXPECT_EQ(StandIn::ToUtf8(TabRecords()[0]->DisplayName.ToString()), "Create New Mod");
-	EXPECT_EQ(TabRecords()[0]->WindowSize.X, 800.0f);
-	EXPECT_EQ(TabRecords()[0]->WindowSize.Y, 600.0f);
+	ASSERT_TRUE(FGlobalTabmanager::Get()->TryInvokeTab(FName(TEXT("UGCPluginCreator"))).IsValid());
 	EXPECT_TRUE(StandIn::WindowMenuTabs().empty());
 }
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace fs = std::filesystem;
+
 class FSessionTranscriptTest : public FHeadlessEditorTest
 {
 protected:
@@ -35,19 +37,29 @@ TEST_F(FSessionTranscriptTest, MenusListsEveryMenuInTurn)
 TEST_F(FSessionTranscriptTest, CreateFromTwoTemplatesOpensTheTabAndAnnouncesTheMod)
 {
 	EXPECT_EQ(Session({"create", "Northline", "--template", "Route", "--template", "ServiceMode"}), Expected("create.txt"));
+	EXPECT_NE(ReadAll(Drive("Work/Moravane/Plugins/Northline/Northline.uplugin")).find("\"Category\": \"DLC\""), std::string::npos);
 }
 
+// The prompt lists the unsaved map before the plugin's content, and nothing of the cook starts.
 TEST_F(FSessionTranscriptTest, CookDeclinedAtTheSavePromptListsTheDropDownPromptsAndRefuses)
 {
-	EXPECT_EQ(Session({"cook", "CalverlyBranchLine", "--dirty", "/CalverlyBranchLine/Maps/Main", "--save", "none"}), Expected("cook-declined.txt"));
+	EXPECT_EQ(Session({"cook", "CalverlyBranchLine", "--dirty", "/CalverlyBranchLine/Maps/Main", "--dirty-map", "/Game/Maps/Hub", "--save", "none"}), Expected("cook-declined.txt"));
 }
 
 TEST_F(FSessionTranscriptTest, CookSavedAtTheSavePromptListsTheDropDownPromptsAndStartsTheTask)
 {
 	EXPECT_EQ(Session({"cook", "CalverlyBranchLine", "--dirty", "/CalverlyBranchLine/Maps/Main", "--save", "all"}), Expected("cook-saved.txt"));
+	EXPECT_EQ(ReadAll(Drive("Work/Moravane/Plugins/CalverlyBranchLine/Saved/Cooked/WindowsNoEditor/Moravane/Plugins/CalverlyBranchLine/Content/Metadata/DevelopmentAssetRegistry.bin")), "development asset registry of CalverlyBranchLine\n/CalverlyBranchLine/Main\n");
 }
 
-TEST_F(FSessionTranscriptTest, DistributeThreePluginsStagesListsAndPacksInOrder)
+TEST_F(FSessionTranscriptTest, DistributeThreePluginsStagesListsAndPacksInOrderThenRemovesTheStaging)
 {
 	EXPECT_EQ(Session({"distribute", "--calverly5", "--plugin", "CalverlyBranchLine", "--original", "--dlcs", "Moravane_Base, Calverly5_Signals", "--plugin", "ThirdPartyLocos", "--plugin", "ExpressTimetable", "--original"}), Expected("distribute.txt"));
+
+	const std::string Pak = ReadAll(Drive("Work/Moravane-WindowsNoEditor-CalverlyBranchLine.pak"));
+	EXPECT_NE(Pak.find("C:/pellow/Moravane/Plugins/DLC/ThirdPartyLocos/Content/Locos/Class47.uasset -> ..\\..\\..\\Moravane/Plugins/DLC/ThirdPartyLocos/Content/Locos/Class47.uasset"), std::string::npos) << Pak;
+	const std::string Cooked = "Work/Moravane/Plugins/CalverlyBranchLine/Saved/Cooked/WindowsNoEditor/Moravane/Plugins/CalverlyBranchLine/";
+	EXPECT_NE(ReadAll(Drive(Cooked + "Content/CalverlyBranchLine.ugc")).find("\"DLCDependencies\": [\"Moravane_Base\", \"Calverly5_Signals\"],"), std::string::npos);
+	EXPECT_EQ(ReadAll(Drive(Cooked + "Content/AssetRegistry.bin")), "asset registry of CalverlyBranchLine\nasset registry of ExpressTimetable\n");
+	EXPECT_FALSE(fs::exists(Drive("pellow")));
 }

@@ -2,6 +2,8 @@
 
 #include "CoreMinimal.h"
 #include "GenericPlatform/GenericPlatformFile.h"
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
@@ -21,18 +23,17 @@ public:
 
 	void AddFile(const FString& Path, const std::string& Bytes, int64 Ticks = 0, bool bReadOnly = false)
 	{
-		Files[Key(*Path)] = FEntry{Bytes, Ticks, bReadOnly};
+		Files[*Path] = FEntry{Bytes, Ticks, bReadOnly};
 	}
-	void AddDirectory(const FString& Path) { Directories.insert(Key(*Path)); }
+	void AddDirectory(const FString& Path) { Directories.insert(*Path); }
 	const FEntry* Find(const FString& Path) const
 	{
-		const auto It = Files.find(Key(*Path));
+		const auto It = Files.find(*Path);
 		return It == Files.end() ? nullptr : &It->second;
 	}
 
 	IPlatformFile* Below = nullptr;
 	int TickCount = 0;
-	std::vector<std::wstring> DeletedDirectoryRequests;
 	struct FWriteRequest
 	{
 		std::wstring Path;
@@ -47,13 +48,13 @@ public:
 	virtual void Tick() override { ++TickCount; }
 	virtual const TCHAR* GetName() const override { return TEXT("LowerLayerDouble"); }
 
-	virtual bool FileExists(const TCHAR* Filename) override { return Files.count(Key(Filename)) != 0; }
+	virtual bool FileExists(const TCHAR* Filename) override { return Files.count(Filename) != 0; }
 	virtual int64 FileSize(const TCHAR* Filename) override
 	{
 		const FEntry* Entry = Find(Filename);
 		return Entry ? (int64)Entry->Bytes.size() : -1;
 	}
-	virtual bool DeleteFile(const TCHAR* Filename) override { return Files.erase(Key(Filename)) != 0; }
+	virtual bool DeleteFile(const TCHAR* Filename) override { return Files.erase(Filename) != 0; }
 	virtual bool IsReadOnly(const TCHAR* Filename) override
 	{
 		const FEntry* Entry = Find(Filename);
@@ -77,31 +78,27 @@ public:
 
 	virtual IFileHandle* OpenRead(const TCHAR* Filename, bool bAllowWrite) override
 	{
-		const FEntry* Entry = Find(Filename);
-		return Entry ? new FMemoryHandle(nullptr, Entry->Bytes) : nullptr;
+		const auto It = Files.find(Filename);
+		return It == Files.end() ? nullptr : new FMemoryHandle(It->second.Bytes, 0);
 	}
 	virtual IFileHandle* OpenWrite(const TCHAR* Filename, bool bAppend, bool bAllowRead) override
 	{
-		WriteRequests.push_back({Key(Filename), bAppend, bAllowRead});
-		FEntry& Entry = Files[Key(Filename)];
+		WriteRequests.push_back({Filename, bAppend, bAllowRead});
+		FEntry& Entry = Files[Filename];
 		if (!bAppend)
 		{
 			Entry.Bytes.clear();
 		}
-		return new FMemoryHandle(&Entry.Bytes, Entry.Bytes);
+		return new FMemoryHandle(Entry.Bytes, (int64)Entry.Bytes.size());
 	}
 
-	virtual bool DirectoryExists(const TCHAR* Directory) override { return Directories.count(Key(Directory)) != 0; }
+	virtual bool DirectoryExists(const TCHAR* Directory) override { return Directories.count(Directory) != 0; }
 	virtual bool CreateDirectory(const TCHAR* Directory) override
 	{
-		Directories.insert(Key(Directory));
+		Directories.insert(Directory);
 		return true;
 	}
-	virtual bool DeleteDirectory(const TCHAR* Directory) override
-	{
-		DeletedDirectoryRequests.push_back(Key(Directory));
-		return Directories.erase(Key(Directory)) != 0;
-	}
+	virtual bool DeleteDirectory(const TCHAR* Directory) override { return Directories.erase(Directory) != 0; }
 	virtual FFileStatData GetStatData(const TCHAR* FilenameOrDirectory) override
 	{
 		if (const FEntry* Entry = Find(FilenameOrDirectory))
@@ -140,15 +137,9 @@ private:
 	class FMemoryHandle : public IFileHandle
 	{
 	public:
-		FMemoryHandle(std::string* InTarget, std::string InBytes)
-			: Target(InTarget), Bytes(std::move(InBytes)), Position(InTarget ? (int64)Bytes.size() : 0) {}
-		virtual ~FMemoryHandle() override
-		{
-			if (Target)
-			{
-				*Target = Bytes;
-			}
-		}
+		// Reads and writes go straight to the entry's bytes, which the map keeps in place.
+		FMemoryHandle(std::string& InBytes, int64 InPosition)
+			: Bytes(InBytes), Position(InPosition) {}
 		virtual int64 Tell() override { return Position; }
 		virtual bool Seek(int64 NewPosition) override
 		{
@@ -184,31 +175,25 @@ private:
 		}
 
 	private:
-		std::string* Target;
-		std::string Bytes;
+		std::string& Bytes;
 		int64 Position;
 	};
-
-	static std::wstring Key(const TCHAR* Path) { return std::wstring(Path); }
 
 	std::vector<std::wstring> ChildrenOf(const TCHAR* Directory) const
 	{
 		const std::wstring Prefix = std::wstring(Directory) + L"/";
+		const auto IsChild = [&Prefix](const std::wstring& Path) {
+			return Path.compare(0, Prefix.size(), Prefix) == 0 && Path.find(L'/', Prefix.size()) == std::wstring::npos;
+		};
 		std::set<std::wstring> Children;
 		for (const auto& File : Files)
 		{
-			if (File.first.compare(0, Prefix.size(), Prefix) == 0 && File.first.find(L'/', Prefix.size()) == std::wstring::npos)
+			if (IsChild(File.first))
 			{
 				Children.insert(File.first);
 			}
 		}
-		for (const std::wstring& Path : Directories)
-		{
-			if (Path.compare(0, Prefix.size(), Prefix) == 0 && Path.find(L'/', Prefix.size()) == std::wstring::npos)
-			{
-				Children.insert(Path);
-			}
-		}
+		std::copy_if(Directories.begin(), Directories.end(), std::inserter(Children, Children.end()), IsChild);
 		return std::vector<std::wstring>(Children.begin(), Children.end());
 	}
 

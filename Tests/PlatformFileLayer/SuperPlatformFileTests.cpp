@@ -41,12 +41,6 @@ namespace
 	};
 }
 
-TEST_F(FSandboxTest, SuperPlatformLayerIsNamedSuperPlatform)
-{
-	FSuperPlatformFile Layer;
-	EXPECT_EQ(StandIn::ToUtf8(Layer.GetName()), "SuperPlatform");
-}
-
 TEST_F(FSandboxTest, SuperPlatformLayerDoesNotInitializeWithoutAnInnerLayer)
 {
 	FSuperPlatformFile Layer;
