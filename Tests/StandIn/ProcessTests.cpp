@@ -88,61 +88,42 @@ TEST_F(FStandInProcessTest, TheJournalHoldsTheUrlInQuotesABlankAndTheParametersA
 									   }));
 }
 
-TEST_F(FStandInProcessTest, AUrlWithABlankInItsPathIsQuotedWholeAndItsChildGetsThatPathAsArgv0)
+TEST_F(FStandInProcessTest, AUrlWithABlankInItsPathIsQuotedWholeOnceAndItsChildGetsThatPathAsArgv0)
 {
 	InstallRecordingTool("C:/Program Files/Tools/Recorder.exe");
 
 	EXPECT_TRUE(FPlatformProcess::ExecProcess(TEXT("C:/Program Files/Tools/Recorder.exe"), TEXT("C:/a\\\\\"b c\" d\"\"e"), nullptr, nullptr, nullptr));
-
-	EXPECT_EQ(ProcessCommandLines(), (std::vector<std::string>{"\"C:/Program Files/Tools/Recorder.exe\" C:/a\\\\\"b c\" d\"\"e"}));
-	EXPECT_EQ(ReadFile("C:/Program Files/Tools/Recorder.exe.call1.argv0"), "C:/Program Files/Tools/Recorder.exe");
-	EXPECT_EQ(ToolCallArguments("C:/Program Files/Tools/Recorder.exe", 1), (std::vector<std::string>{"C:/a\\b c", "de"}));
-}
-
-TEST_F(FStandInProcessTest, AUrlThatAlreadyStartsWithAQuoteIsNotQuotedAgain)
-{
-	InstallRecordingTool("C:/Program Files/Tools/Recorder.exe");
-
 	EXPECT_TRUE(FPlatformProcess::ExecProcess(TEXT("\"C:/Program Files/Tools/Recorder.exe\""), TEXT("-x"), nullptr, nullptr, nullptr));
 
-	EXPECT_EQ(ProcessCommandLines(), (std::vector<std::string>{"\"C:/Program Files/Tools/Recorder.exe\" -x"}));
+	EXPECT_EQ(ProcessCommandLines(), (std::vector<std::string>{"\"C:/Program Files/Tools/Recorder.exe\" C:/a\\\\\"b c\" d\"\"e", "\"C:/Program Files/Tools/Recorder.exe\" -x"}));
 	EXPECT_EQ(ReadFile("C:/Program Files/Tools/Recorder.exe.call1.argv0"), "C:/Program Files/Tools/Recorder.exe");
-	EXPECT_EQ(ToolCallArguments("C:/Program Files/Tools/Recorder.exe", 1), (std::vector<std::string>{"-x"}));
+	EXPECT_EQ(ToolCallArguments("C:/Program Files/Tools/Recorder.exe", 1), (std::vector<std::string>{"C:/a\\b c", "de"}));
+	EXPECT_EQ(ReadFile("C:/Program Files/Tools/Recorder.exe.call2.argv0"), "C:/Program Files/Tools/Recorder.exe");
+	EXPECT_EQ(ToolCallArguments("C:/Program Files/Tools/Recorder.exe", 2), (std::vector<std::string>{"-x"}));
 }
 
-TEST_F(FStandInProcessTest, AProgramInAMissingFolderCannotStartAndGivesPathNotFound)
+TEST_F(FStandInProcessTest, AProgramThatCannotStartGivesWindowsErrorAndIsJournaledBeforeTheWarningsThatSayWhy)
 {
-	int32 ReturnCode = 0;
+	int32 InMissingFolder = 0;
 	FString StdOut = TEXT("untouched");
-
-	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("C:/Work/Engine/Binaries/Win64/UnrealPak.exe"), TEXT("-create=x"), &ReturnCode, &StdOut, nullptr));
-
-	EXPECT_EQ(ReturnCode, 3);
-	EXPECT_EQ(StandIn::ToUtf8(StdOut), "untouched");
-}
-
-TEST_F(FStandInProcessTest, AMissingProgramCannotStartAndGivesFileNotFound)
-{
+	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("C:/Work/Engine/Binaries/Win64/UnrealPak.exe"), TEXT("-create=x"), &InMissingFolder, &StdOut, nullptr));
 	std::filesystem::create_directories(Host("C:/Work/Engine/Binaries/Win64"));
 	int32 InFolder = 0;
 	int32 OnPath = 0;
-
 	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("C:/Work/Engine/Binaries/Win64/UnrealPak.exe"), TEXT(""), &InFolder, nullptr, nullptr));
 	EXPECT_FALSE(FPlatformProcess::ExecProcess(TEXT("no-such-program.exe"), TEXT(""), &OnPath, nullptr, nullptr));
 
+	EXPECT_EQ(InMissingFolder, 3);
+	EXPECT_EQ(StandIn::ToUtf8(StdOut), "untouched");
 	EXPECT_EQ(InFolder, 2);
 	EXPECT_EQ(OnPath, 2);
-}
-
-TEST_F(FStandInProcessTest, AProgramThatCannotStartIsJournaledBeforeTheWarningsThatSayWhy)
-{
-	FPlatformProcess::ExecProcess(TEXT("C:/Work/Engine/Binaries/Win64/UnrealPak.exe"), TEXT("-create=x"), nullptr, nullptr, nullptr);
-
-	EXPECT_EQ(StandIn::JournalLines(), (std::vector<std::string>{
-										   "Process: \"C:/Work/Engine/Binaries/Win64/UnrealPak.exe\" -create=x",
-										   "LogWindows: Warning: CreateProc failed: The system cannot find the path specified. (0x00000003)",
-										   "LogWindows: Warning: URL: C:/Work/Engine/Binaries/Win64/UnrealPak.exe -create=x",
-									   }));
+	const std::vector<std::string> Lines = StandIn::JournalLines();
+	ASSERT_GE(Lines.size(), 3u);
+	EXPECT_EQ(std::vector<std::string>(Lines.begin(), Lines.begin() + 3), (std::vector<std::string>{
+																			  "Process: \"C:/Work/Engine/Binaries/Win64/UnrealPak.exe\" -create=x",
+																			  "LogWindows: Warning: CreateProc failed: The system cannot find the path specified. (0x00000003)",
+																			  "LogWindows: Warning: URL: C:/Work/Engine/Binaries/Win64/UnrealPak.exe -create=x",
+																		  }));
 }
 
 TEST_F(FStandInProcessTest, ExecProcessReturnsWhenTheChildEndsThoughAGrandchildKeepsItsOutputOpen)
@@ -260,25 +241,18 @@ TEST_F(FStandInProcessTest, CmdExeTakesItsSwitchesInEitherCase)
 	EXPECT_FALSE(Exists("C:/pellow/B"));
 }
 
-TEST_F(FStandInProcessTest, RmdirWithoutQuietKeepsTheTreeWhenTheAnswerIsN)
+TEST_F(FStandInProcessTest, RmdirWithoutQuietAsksAndRemovesTheTreeOnlyWhenTheAnswerIsY)
 {
 	WriteFile("C:/pellow/cooking.txt", "x");
 
-	const FSystemRun Run = RunSystemWithInput("cmd.exe /c rmdir /s \"C:/pellow/\"", "N\r\n", Root);
-
-	EXPECT_EQ(Run.Out, "C:/pellow/, Are you sure (Y/N)? ");
-	EXPECT_EQ(Run.Result, 0);
+	const FSystemRun No = RunSystemWithInput("cmd.exe /c rmdir /s \"C:/pellow/\"", "N\r\n", Root);
 	EXPECT_EQ(ReadFile("C:/pellow/cooking.txt"), "x");
-}
+	const FSystemRun Yes = RunSystemWithInput("cmd.exe /c rmdir /s \"C:/pellow/\"", "y\n", Root);
 
-TEST_F(FStandInProcessTest, RmdirWithoutQuietRemovesTheTreeWhenTheAnswerIsY)
-{
-	WriteFile("C:/pellow/cooking.txt", "x");
-
-	const FSystemRun Run = RunSystemWithInput("cmd.exe /c rmdir /s \"C:/pellow/\"", "y\n", Root);
-
-	EXPECT_EQ(Run.Out, "C:/pellow/, Are you sure (Y/N)? ");
-	EXPECT_EQ(Run.Result, 0);
+	EXPECT_EQ(No.Out, "C:/pellow/, Are you sure (Y/N)? ");
+	EXPECT_EQ(No.Result, 0);
+	EXPECT_EQ(Yes.Out, "C:/pellow/, Are you sure (Y/N)? ");
+	EXPECT_EQ(Yes.Result, 0);
 	EXPECT_FALSE(Exists("C:/pellow"));
 }
 
@@ -318,18 +292,6 @@ TEST_F(FStandInProcessTest, CmdExeRunsAProgramThatIsNotABuiltInWithTheRestOfTheL
 	EXPECT_EQ(ReturnCode, 4);
 	EXPECT_EQ(ReadFile("C:/Tools/Recorder.exe.call1.argv0"), "C:/Tools/Recorder.exe");
 	EXPECT_EQ(ToolCallArguments("C:/Tools/Recorder.exe", 1), (std::vector<std::string>{"a b", "c\"d"}));
-}
-
-TEST_F(FStandInProcessTest, CmdExeRunsABatchFileWhoseWholeCommandIsQuotedAgainAfterSlashC)
-{
-	InstallRecordingTool("C:/Engine Files/RunUAT.bat", 3);
-
-	int32 ReturnCode = -1;
-	ASSERT_TRUE(FPlatformProcess::ExecProcess(TEXT("cmd.exe"), TEXT("/c \"\"C:/Engine Files/RunUAT.bat\" BuildDLC -Project=\"C:/A B/P.uproject\" -ue4exe=\"C:/W/\"M/x.exe -dlcName=\"N\",\"N\" \""), &ReturnCode, nullptr, nullptr));
-
-	EXPECT_EQ(ReturnCode, 3);
-	EXPECT_EQ(ReadFile("C:/Engine Files/RunUAT.bat.call1.argv0"), "C:/Engine Files/RunUAT.bat");
-	EXPECT_EQ(ToolCallArguments("C:/Engine Files/RunUAT.bat", 1), (std::vector<std::string>{"BuildDLC", "-Project=C:/A B/P.uproject", "-ue4exe=C:/W/M/x.exe", "-dlcName=N,N"}));
 }
 
 TEST_F(FStandInProcessTest, CmdExeStartedWithoutAWindowsCommandLineRefusesToGuessOne)

@@ -11,7 +11,24 @@
 
 // The engine behaviour that the stand-in's widgets reproduce.
 
-TEST_F(FSandboxTest, UnboundCheckBoxTogglesItsOwnStateAndReportsEachChange)
+namespace
+{
+	using FSelections = std::vector<std::pair<std::string, ESelectInfo::Type>>;
+
+	// A combo box over the options whose rows show each option's text; it notes every selection it reports,
+	// a cleared one as "null".
+	TSharedRef<SWidget> MakeCombo(TArray<TSharedPtr<FString>>& Options, FSelections& Selections)
+	{
+		return SNew(SComboBox<TSharedPtr<FString>>).OptionsSource(&Options).OnGenerateWidget_Lambda([](TSharedPtr<FString> Option) -> TSharedRef<SWidget> {
+																			   return SNew(SEditableText).Text(FText::FromString(*Option));
+																		   })
+			.OnSelectionChanged_Lambda([&Selections](TSharedPtr<FString> Option, ESelectInfo::Type Info) {
+				Selections.emplace_back(Option.IsValid() ? StandIn::ToUtf8(*Option) : "null", Info);
+			});
+	}
+}
+
+TEST_F(FSandboxTest, UnboundCheckBoxTogglesItsOwnStateReportsEachChangeAndUnchecksFromUndetermined)
 {
 	std::vector<ECheckBoxState> Events;
 	const TSharedRef<SWidget> Free = SNew(SCheckBox).OnCheckStateChanged_Lambda([&Events](ECheckBoxState State) {
@@ -21,10 +38,16 @@ TEST_F(FSandboxTest, UnboundCheckBoxTogglesItsOwnStateAndReportsEachChange)
 	StandIn::ClickCheckBox(Free);
 	const ECheckBoxState AfterOneClick = StandIn::Paint(Free).CheckState;
 	StandIn::ClickCheckBox(Free);
+	const ECheckBoxState AfterTwoClicks = StandIn::Paint(Free).CheckState;
+	StandIn::ChangeCheckState(Free, ECheckBoxState::Undetermined);
+	const ECheckBoxState Undetermined = StandIn::Paint(Free).CheckState;
+	StandIn::ClickCheckBox(Free);
 
 	EXPECT_EQ(AfterOneClick, ECheckBoxState::Checked);
+	EXPECT_EQ(AfterTwoClicks, ECheckBoxState::Unchecked);
+	EXPECT_EQ(Undetermined, ECheckBoxState::Undetermined);
 	EXPECT_EQ(StandIn::Paint(Free).CheckState, ECheckBoxState::Unchecked);
-	EXPECT_EQ(Events, (std::vector<ECheckBoxState>{ECheckBoxState::Checked, ECheckBoxState::Unchecked}));
+	EXPECT_EQ(Events, (std::vector<ECheckBoxState>{ECheckBoxState::Checked, ECheckBoxState::Unchecked, ECheckBoxState::Undetermined, ECheckBoxState::Unchecked}));
 }
 
 TEST_F(FSandboxTest, BoundCheckBoxShowsItsBindingThoughAClickReportsTheToggle)
@@ -46,9 +69,8 @@ TEST_F(FSandboxTest, BoundCheckBoxShowsItsBindingThoughAClickReportsTheToggle)
 TEST_F(FSandboxTest, ComboBoxListsItsOptionsAsTheyAreWhenItOpens)
 {
 	TArray<TSharedPtr<FString>> Options = {MakeShareable(new FString(TEXT("One")))};
-	const TSharedRef<SWidget> Combo = SNew(SComboBox<TSharedPtr<FString>>).OptionsSource(&Options).OnGenerateWidget_Lambda([](TSharedPtr<FString> Option) -> TSharedRef<SWidget> {
-		return SNew(SEditableText).Text(FText::FromString(*Option));
-	});
+	FSelections Selections;
+	const TSharedRef<SWidget> Combo = MakeCombo(Options, Selections);
 	Options.Add(MakeShareable(new FString(TEXT("Two"))));
 
 	std::vector<std::string> Shown;
@@ -63,14 +85,8 @@ TEST_F(FSandboxTest, ComboBoxListsItsOptionsAsTheyAreWhenItOpens)
 TEST_F(FSandboxTest, ComboBoxReportsANewChoiceAsAMouseClickAndTheSameChoiceNotAtAll)
 {
 	TArray<TSharedPtr<FString>> Options = {MakeShareable(new FString(TEXT("One"))), MakeShareable(new FString(TEXT("Two")))};
-	std::vector<std::pair<std::string, ESelectInfo::Type>> Selections;
-	const auto MakeRow = [](TSharedPtr<FString> Option) -> TSharedRef<SWidget> {
-		return SNew(SEditableText).Text(FText::FromString(*Option));
-	};
-	const auto RecordSelection = [&Selections](TSharedPtr<FString> Option, ESelectInfo::Type Info) {
-		Selections.emplace_back(StandIn::ToUtf8(*Option), Info);
-	};
-	const TSharedRef<SWidget> Combo = SNew(SComboBox<TSharedPtr<FString>>).OptionsSource(&Options).OnGenerateWidget_Lambda(MakeRow).OnSelectionChanged_Lambda(RecordSelection);
+	FSelections Selections;
+	const TSharedRef<SWidget> Combo = MakeCombo(Options, Selections);
 
 	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, TEXT("Two")));
 	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, 1));
@@ -78,36 +94,14 @@ TEST_F(FSandboxTest, ComboBoxReportsANewChoiceAsAMouseClickAndTheSameChoiceNotAt
 	EXPECT_FALSE(StandIn::ChooseComboOption(Combo, TEXT("two")));
 	EXPECT_FALSE(StandIn::ChooseComboOption(Combo, 2));
 
-	EXPECT_EQ(Selections, (std::vector<std::pair<std::string, ESelectInfo::Type>>{{"Two", ESelectInfo::OnMouseClick}, {"One", ESelectInfo::OnMouseClick}}));
-}
-
-TEST_F(FSandboxTest, CheckBoxReportsEveryStateItIsChangedTo)
-{
-	std::vector<ECheckBoxState> Events;
-	const auto Record = [&Events](ECheckBoxState State) {
-		Events.push_back(State);
-	};
-	const TSharedRef<SWidget> Free = SNew(SCheckBox).OnCheckStateChanged_Lambda(Record);
-
-	StandIn::ChangeCheckState(Free, ECheckBoxState::Undetermined);
-	EXPECT_EQ(StandIn::Paint(Free).CheckState, ECheckBoxState::Undetermined);
-	// From undetermined a click unchecks, as from checked.
-	StandIn::ClickCheckBox(Free);
-	EXPECT_EQ(StandIn::Paint(Free).CheckState, ECheckBoxState::Unchecked);
-	EXPECT_EQ(Events, (std::vector<ECheckBoxState>{ECheckBoxState::Undetermined, ECheckBoxState::Unchecked}));
+	EXPECT_EQ(Selections, (FSelections{{"Two", ESelectInfo::OnMouseClick}, {"One", ESelectInfo::OnMouseClick}}));
 }
 
 TEST_F(FSandboxTest, ClearedComboSelectionIsReportedAsANullOptionOnlyWhenThereWasOne)
 {
 	TArray<TSharedPtr<FString>> Options = {MakeShareable(new FString(TEXT("One")))};
-	std::vector<std::pair<std::string, ESelectInfo::Type>> Selections;
-	const auto MakeRow = [](TSharedPtr<FString> Option) -> TSharedRef<SWidget> {
-		return SNew(SEditableText).Text(FText::FromString(*Option));
-	};
-	const auto RecordSelection = [&Selections](TSharedPtr<FString> Option, ESelectInfo::Type Info) {
-		Selections.emplace_back(Option.IsValid() ? StandIn::ToUtf8(*Option) : "null", Info);
-	};
-	const TSharedRef<SWidget> Combo = SNew(SComboBox<TSharedPtr<FString>>).OptionsSource(&Options).OnGenerateWidget_Lambda(MakeRow).OnSelectionChanged_Lambda(RecordSelection);
+	FSelections Selections;
+	const TSharedRef<SWidget> Combo = MakeCombo(Options, Selections);
 
 	StandIn::ClearComboSelection(Combo);
 	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, 0));
@@ -115,32 +109,25 @@ TEST_F(FSandboxTest, ClearedComboSelectionIsReportedAsANullOptionOnlyWhenThereWa
 	StandIn::ClearComboSelection(Combo);
 	// Once cleared, the same option counts as a new choice.
 	EXPECT_TRUE(StandIn::ChooseComboOption(Combo, 0));
-	EXPECT_EQ(Selections, (std::vector<std::pair<std::string, ESelectInfo::Type>>{{"One", ESelectInfo::OnMouseClick}, {"null", ESelectInfo::Direct}, {"One", ESelectInfo::OnMouseClick}}));
+	EXPECT_EQ(Selections, (FSelections{{"One", ESelectInfo::OnMouseClick}, {"null", ESelectInfo::Direct}, {"One", ESelectInfo::OnMouseClick}}));
 }
 
-TEST_F(FSandboxTest, BoxSlotsStretchByDefaultAndKeepTheirPadding)
+TEST_F(FSandboxTest, BoxSlotsStretchByDefaultKeepTheirPaddingAndClearAtOnce)
 {
 	TSharedPtr<SVerticalBox> Exposed;
 	const TSharedRef<SWidget> Box = SAssignNew(Exposed, SVerticalBox) + SVerticalBox::Slot().Padding(3)[SNew(SButton)];
 	Exposed->AddSlot()[SNew(SHorizontalBox) + SHorizontalBox::Slot().FillWidth(0.25f)[SNew(SCheckBox)]];
 
 	const std::vector<StandIn::FChildSlot> Slots = StandIn::ChildSlots(Box);
+	Exposed->ClearChildren();
+
 	ASSERT_EQ(Slots.size(), 2u);
 	EXPECT_EQ(StandIn::WidgetType(Slots[0].Widget), "SButton");
 	EXPECT_EQ(Slots[0].Padding, FMargin(3));
 	EXPECT_EQ(Slots[1].Padding, FMargin(0));
 	EXPECT_FLOAT_EQ(Slots[1].Fill, 1.0f);
 	EXPECT_FLOAT_EQ(StandIn::ChildSlots(Slots[1].Widget).at(0).Fill, 0.25f);
-}
-
-TEST_F(FSandboxTest, ClearChildrenEmptiesABoxAtOnce)
-{
-	TSharedPtr<SVerticalBox> Box;
-	SAssignNew(Box, SVerticalBox) + SVerticalBox::Slot()[SNew(SButton)] + SVerticalBox::Slot()[SNew(SCheckBox)];
-
-	Box->ClearChildren();
-
-	EXPECT_EQ(StandIn::ChildSlots(Box.ToSharedRef()).size(), 0u);
+	EXPECT_EQ(StandIn::ChildSlots(Box).size(), 0u);
 }
 
 TEST_F(FSandboxTest, BoundTextIsReadAgainAtEachPaint)
@@ -179,17 +166,13 @@ TEST_F(FSandboxTest, TextBoxShowsWhatWasTypedAndReportsTheCommitWithItsKind)
 	EXPECT_EQ(Commits, (std::vector<std::pair<std::string, ETextCommit::Type>>{{"Typed", ETextCommit::OnUserMovedFocus}}));
 }
 
-TEST_F(FSandboxTest, CoreStyleFindsButtonStylesWhateverTheCaseAndFallsBackToTheDefault)
+TEST_F(FSandboxTest, CoreStyleFindsButtonStylesWhateverTheCaseFallsBackToTheDefaultAndStylesAPlainButton)
 {
 	const ISlateStyle& Style = FCoreStyle::Get();
 	EXPECT_NE(&Style.GetWidgetStyle<FButtonStyle>("NoBorder"), &Style.GetWidgetStyle<FButtonStyle>("Button"));
 	EXPECT_EQ(&Style.GetWidgetStyle<FButtonStyle>("NoBorder"), &Style.GetWidgetStyle<FButtonStyle>("noborder"));
 	EXPECT_EQ(&Style.GetWidgetStyle<FButtonStyle>("NoSuchStyle"), &FButtonStyle::GetDefault());
-}
-
-TEST_F(FSandboxTest, AButtonWithoutAStyleTakesTheCoreStylesButton)
-{
-	EXPECT_EQ(StandIn::Paint(SNew(SButton)).ButtonStyle, &FCoreStyle::Get().GetWidgetStyle<FButtonStyle>("Button"));
+	EXPECT_EQ(StandIn::Paint(SNew(SButton)).ButtonStyle, &Style.GetWidgetStyle<FButtonStyle>("Button"));
 }
 
 TEST_F(FSandboxTest, WindowMenuListsNomadTabsUnlessHiddenAndGreysOutDisabledOnes)
