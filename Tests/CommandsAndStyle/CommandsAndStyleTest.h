@@ -25,13 +25,3 @@ protected:
 		FSandboxTest::TearDown();
 	}
 };
-
-inline std::string Utf8(const FString& Text)
-{
-	return StandIn::ToUtf8(Text);
-}
-
-inline std::string Utf8(const FName& Name)
-{
-	return StandIn::ToUtf8(Name.ToString());
-}

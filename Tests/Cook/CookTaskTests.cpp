@@ -42,9 +42,7 @@ TEST_F(FCookTest, TaskTakesTheLaunchFolderOnAnotherDriveAsTheEditorsRoot)
 
 TEST_F(FCookTest, TaskNameIsLocalised)
 {
-	StandIn::FWorld World = DefaultWorld();
-	World.Translations[{"UGCPackager", "UGCEditor_PackagePluginTaskName"}] = "Vaření {0}";
-	ResetWorld(World);
+	Translate("UGCPackager", "UGCEditor_PackagePluginTaskName", "Vaření {0}");
 	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
 	StandIn::DiscoverPlugins();
 

@@ -22,22 +22,6 @@ TEST_F(FCookTest, DropDownEntryShowsThePluginsNameAndFolderUnderTheShareHeadingW
 	EXPECT_TRUE(Entries[1].bClosesMenuAfterSelection);
 }
 
-TEST_F(FCookTest, DropDownRegistersOneCommandPerPluginWithoutAnIconOfItsOwn)
-{
-	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
-	WritePlugin("C:/Work/Moravane/Mods/Tram/Tram.uplugin");
-	StandIn::DiscoverPlugins();
-
-	OpenDropDown();
-
-	EXPECT_EQ(PluginCommandNames(), std::vector<std::string>({"UGCEditorUGC_MyRoute", "UGCEditorUGC_Tram"}));
-	const TSharedPtr<FUICommandInfo> Command = FInputBindingManager::Get().FindCommandInContext(TEXT("UGCEditor"), TEXT("UGCEditorUGC_Tram"));
-	ASSERT_TRUE(Command.IsValid());
-	EXPECT_EQ(StandIn::ToUtf8(Command->GetLabel().ToString()), "Tram");
-	EXPECT_EQ(StandIn::ToUtf8(Command->GetDescription().ToString()), "../../../Moravane/Mods/Tram");
-	EXPECT_FALSE(Command->GetIcon().IsSet());
-}
-
 TEST_F(FCookTest, EachOpeningOfTheDropDownDropsTheCommandsOfTheOpeningBefore)
 {
 	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");

@@ -92,8 +92,8 @@ TEST_F(FUnsavedContentTest, TheUnsavedContentMessageIsLocalised)
 	StandIn::FWorld World = DefaultWorld();
 	World.DirtyPackages = {{TEXT("/MyRoute/Data/Track"), false}};
 	World.SavePromptAnswer = StandIn::ESavePromptAnswer::DontSave;
-	World.Translations[{"UGCPackager", "PackageUGCError_UnsavedContent"}] = "Před sdílením uložte všechny assety v {0}.";
 	ResetWorld(World);
+	Translate("UGCPackager", "PackageUGCError_UnsavedContent", "Před sdílením uložte všechny assety v {0}.");
 	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
 	StandIn::DiscoverPlugins();
 

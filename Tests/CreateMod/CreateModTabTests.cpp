@@ -3,17 +3,7 @@
 #include "StandIn/WindowMenu.h"
 #include "Widgets/Docking/SDockTab.h"
 
-class FCreateModTabTest : public FCreateModTest
-{
-protected:
-	// The active culture translates the localised text of this namespace and key.
-	void Translate(const std::string& Namespace, const std::string& Key, const std::string& Translation)
-	{
-		StandIn::FWorld World = StandIn::GetWorld();
-		World.Translations[{Namespace, Key}] = Translation;
-		ResetWorld(World);
-	}
-};
+using FCreateModTabTest = FCreateModTest;
 
 TEST_F(FCreateModTabTest, TheFirstCommandOpensTheTabInANewWindowOfEightHundredBySixHundred)
 {

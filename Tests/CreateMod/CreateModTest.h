@@ -8,8 +8,6 @@
 #include "UGCCreator.h"
 #include "UGCPluginWizardDefinition.h"
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
 
 // A sandbox project that carries the repository's Templates and Resources folders, with Slate up and
@@ -35,11 +33,7 @@ protected:
 		fs::copy(RESOURCES_DIR, Host("C:/Work/Moravane/Resources"), fs::copy_options::recursive);
 	}
 
-	static std::string RepositoryFile(const std::string& RelativePath)
-	{
-		std::ifstream Stream(std::string(REPOSITORY_DIR) + "/" + RelativePath, std::ios::binary);
-		return std::string(std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>());
-	}
+	static std::string RepositoryFile(const std::string& RelativePath) { return ReadAll(std::string(REPOSITORY_DIR) + "/" + RelativePath); }
 
 	// The tab records of the journal, in order.
 	static std::vector<const StandIn::FTabRecord*> TabRecords() { return StandIn::JournalRecords<StandIn::FTabRecord>(); }

@@ -81,9 +81,7 @@ TEST_F(FDistributionTest, ARunLeavesThePipelineWithoutPlugins)
 
 TEST_F(FDistributionTest, TheFinalMessageIsLocalisedUnderItsOwnNamespaceAndKey)
 {
-	StandIn::FWorld World = DefaultWorld();
-	World.Translations[{"DialogNamespace", "DialogText"}] = "Pak uložen zde: {0}";
-	ResetWorld(World);
+	Translate("DialogNamespace", "DialogText", "Pak uložen zde: {0}");
 	Cook("Alpha");
 
 	Distribute({Entry("Alpha", true)}, false);

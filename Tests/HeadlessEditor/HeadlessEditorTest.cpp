@@ -1,17 +1,7 @@
 #include "HeadlessEditorTest.h"
-#include <fstream>
-#include <sstream>
 #include <sys/wait.h>
 
 namespace fs = std::filesystem;
-
-std::string ReadAll(const fs::path& Path)
-{
-	std::ifstream Stream(Path, std::ios::binary);
-	std::ostringstream Bytes;
-	Bytes << Stream.rdbuf();
-	return Bytes.str();
-}
 
 std::string ShellQuoted(const std::string& Argument)
 {

@@ -14,7 +14,6 @@ struct FRun
 	std::string Err;
 };
 
-std::string ReadAll(const std::filesystem::path& Path);
 // An argument as the host's shell takes it literally.
 std::string ShellQuoted(const std::string& Argument);
 

@@ -48,18 +48,6 @@ TEST_F(FModuleShellTest, CookModTextsKeepTheirOwnKeysInTheMenuAndOnTheToolBar)
 	EXPECT_EQ(FTextInspector::GetKey(ToolBar.ToolTip).Get(TEXT("")), TEXT("PackageUGC_Tooltip"));
 }
 
-TEST_F(FModuleShellTest, CreateModInTheMenuOpensTheCreateNewModTab)
-{
-	LoadUGCEditor();
-	const size_t Mark = JournalMark();
-
-	EXPECT_TRUE(StandIn::ClickMenuEntry(StandIn::OpenLevelEditorMenu(TEXT("FileProject")), TEXT("Create Mod")));
-
-	const std::vector<std::string> Lines = StandIn::JournalLines(Mark);
-	ASSERT_FALSE(Lines.empty());
-	EXPECT_EQ(Lines[0], "Tab: Create New Mod (UGCPluginCreator) 800x600");
-}
-
 TEST_F(FModuleShellTest, CreateModOnTheToolBarWithThePluginBrowserOffTellsTheUser)
 {
 	StandIn::FWorld World = DefaultWorld();

@@ -43,7 +43,5 @@ protected:
 
 	static std::string TopLayerName() { return StandIn::ToUtf8(FPlatformFileManager::Get().GetPlatformFile().GetName()); }
 
-	static std::string Utf8(const FText& Text) { return StandIn::ToUtf8(Text.ToString()); }
-
 	size_t JournalMark() const { return StandIn::Journal().size(); }
 };

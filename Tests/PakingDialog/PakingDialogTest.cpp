@@ -17,13 +17,6 @@ void FPakingDialogTest::TearDown()
 	FSandboxTest::TearDown();
 }
 
-void FPakingDialogTest::Translate(const std::string& Namespace, const std::string& Key, const std::string& Translation)
-{
-	StandIn::FWorld World = StandIn::GetWorld();
-	World.Translations[{Namespace, Key}] = Translation;
-	ResetWorld(World);
-}
-
 void FPakingDialogTest::CookPlugin(const std::string& Name) const
 {
 	WriteFile("C:/Work/Moravane/Plugins/" + Name + "/Saved/Cooked/WindowsNoEditor/Moravane/Plugins/" + Name + "/Content/Metadata/DevelopmentAssetRegistry.bin", "registry");

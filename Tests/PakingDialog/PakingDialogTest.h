@@ -32,9 +32,6 @@ class FPakingDialogTest : public FSandboxTest
 protected:
 	void TearDown() override;
 
-	// The active culture translates the localised text of this namespace and key; call before anything
-	// else, as it starts a fresh world.
-	void Translate(const std::string& Namespace, const std::string& Key, const std::string& Translation);
 	// Leaves the development asset registry where discovery looks for it.
 	void CookPlugin(const std::string& Name) const;
 	// Opens the dialog through FUGCPaking::OpenPakingDialog and keeps the newest window's content.
@@ -65,7 +62,6 @@ protected:
 	std::optional<FHandedRun> DistributeAndSeeWhatThePipelineGot();
 	static std::vector<std::string> OptionTexts(const TSharedRef<SWidget>& ComboBox) { return FPakingDialogDriver::OptionTexts(ComboBox); }
 	static TSharedRef<SWidget> Child(const TSharedRef<SWidget>& Widget, int32 Index) { return FPakingDialogDriver::Child(Widget, Index); }
-	static std::string Utf8(const FText& Text) { return StandIn::ToUtf8(Text.ToString()); }
 	static std::string Shown(const TSharedRef<SWidget>& Widget) { return Utf8(StandIn::ShownText(Widget)); }
 	static std::vector<EAppMsgType::Type> MessageBoxTypes();
 

@@ -5,11 +5,6 @@
 
 namespace
 {
-	std::string Utf8(const FString& Text)
-	{
-		return StandIn::ToUtf8(Text);
-	}
-
 	std::string Descriptor(bool bCanContainContent = true, const std::string& Extra = "")
 	{
 		return std::string("{\n\t\"FileVersion\": 3,\n\t\"Version\": 1,\n\t\"FriendlyName\": \"Friendly\",\n\t\"Category\": \"Other\",\n\t\"CanContainContent\": ") + (bCanContainContent ? "true" : "false") + Extra + "\n}\n";
@@ -64,30 +59,22 @@ TEST_F(FPluginManagerTest, ProjectPluginsAndModsAreLoadedFromTheProjectWithRelat
 	EXPECT_EQ(Utf8(Mod->GetBaseDir()), "../../../Moravane/Mods/OtherMod");
 }
 
-TEST_F(FPluginManagerTest, AProjectBesideTheEngineFolderIsReachedOneLevelHigher)
+// Plugin folders are given relative to the binaries folder where one reaches them, in full otherwise.
+TEST_F(FPluginManagerTest, AProjectBesideTheEngineFolderIsReachedOneLevelHigherAndOneOnAnotherDriveInFull)
 {
-	StandIn::FWorld World = DefaultWorld();
-	World.ProjectFilePath = TEXT("C:/Moravane/Moravane.uproject");
-	ResetWorld(World);
-	WriteFile("C:/Moravane/Plugins/MyRoute/MyRoute.uplugin", Descriptor());
-	StandIn::DiscoverPlugins();
+	std::vector<std::string> BaseDirs;
+	for (const std::string& ProjectFolder : {"C:/Moravane", "D:/Proj"})
+	{
+		StandIn::FWorld World = DefaultWorld();
+		World.ProjectFilePath = StandIn::FromUtf8(ProjectFolder + "/Moravane.uproject");
+		ResetWorld(World);
+		WriteFile(ProjectFolder + "/Plugins/MyRoute/MyRoute.uplugin", Descriptor());
+		StandIn::DiscoverPlugins();
+		const TSharedPtr<IPlugin> Plugin = IPluginManager::Get().FindPlugin(TEXT("MyRoute"));
+		BaseDirs.push_back(Plugin.IsValid() ? Utf8(Plugin->GetBaseDir()) : "not found");
+	}
 
-	const TSharedPtr<IPlugin> Plugin = IPluginManager::Get().FindPlugin(TEXT("MyRoute"));
-	ASSERT_TRUE(Plugin.IsValid());
-	EXPECT_EQ(Utf8(Plugin->GetBaseDir()), "../../../../Moravane/Plugins/MyRoute");
-}
-
-TEST_F(FPluginManagerTest, AProjectOnAnotherDriveKeepsAbsoluteFolders)
-{
-	StandIn::FWorld World = DefaultWorld();
-	World.ProjectFilePath = TEXT("D:/Proj/Proj.uproject");
-	ResetWorld(World);
-	WriteFile("D:/Proj/Plugins/MyRoute/MyRoute.uplugin", Descriptor());
-	StandIn::DiscoverPlugins();
-
-	const TSharedPtr<IPlugin> Plugin = IPluginManager::Get().FindPlugin(TEXT("MyRoute"));
-	ASSERT_TRUE(Plugin.IsValid());
-	EXPECT_EQ(Utf8(Plugin->GetBaseDir()), "D:/Proj/Plugins/MyRoute");
+	EXPECT_EQ(BaseDirs, (std::vector<std::string>{"../../../../Moravane/Plugins/MyRoute", "D:/Proj/Plugins/MyRoute"}));
 }
 
 TEST_F(FPluginManagerTest, APluginIsNamedAfterItsDescriptorNotItsFolder)

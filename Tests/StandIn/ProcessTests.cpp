@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
-#include <iterator>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -57,8 +56,7 @@ namespace
 		dup2(SavedOut, STDOUT_FILENO);
 		close(SavedIn);
 		close(SavedOut);
-		std::ifstream Stream(OutPath, std::ios::binary);
-		return FSystemRun{Result, std::string((std::istreambuf_iterator<char>(Stream)), std::istreambuf_iterator<char>())};
+		return FSystemRun{Result, ReadAll(OutPath)};
 	}
 }
 

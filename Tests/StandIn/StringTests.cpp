@@ -4,15 +4,6 @@
 #include "Misc/Paths.h"
 #include "SandboxTest.h"
 
-namespace
-{
-	// FString's own == ignores case, as the engine's does.
-	std::string Utf8(const FString& Text)
-	{
-		return StandIn::ToUtf8(Text);
-	}
-}
-
 TEST(StandInStrings, CombineJoinsPartsWithOneSlashAndCollapsesNothing)
 {
 	EXPECT_EQ(Utf8(FPaths::Combine(TEXT("C:/x/"), TEXT("a"))), "C:/x/a");

@@ -9,15 +9,12 @@ extern char** environ;
 
 namespace fs = std::filesystem;
 
-namespace
+std::string ReadAll(const fs::path& Path)
 {
-	std::string ReadHostFile(const fs::path& Path)
-	{
-		std::ifstream Stream(Path, std::ios::binary);
-		std::ostringstream Bytes;
-		Bytes << Stream.rdbuf();
-		return Bytes.str();
-	}
+	std::ifstream Stream(Path, std::ios::binary);
+	std::ostringstream Bytes;
+	Bytes << Stream.rdbuf();
+	return Bytes.str();
 }
 
 void FSandboxTest::SetUp()
@@ -46,6 +43,13 @@ void FSandboxTest::ResetWorld(const StandIn::FWorld& World)
 	StandIn::ResetWorld(World);
 }
 
+void FSandboxTest::Translate(const std::string& Namespace, const std::string& Key, const std::string& Translation)
+{
+	StandIn::FWorld World = StandIn::GetWorld();
+	World.Translations[{Namespace, Key}] = Translation;
+	ResetWorld(World);
+}
+
 fs::path FSandboxTest::Host(const std::string& WindowsPath) const
 {
 	return StandIn::HostPath(StandIn::FromUtf8(WindowsPath));
@@ -62,14 +66,14 @@ void FSandboxTest::InstallStyleImages() const
 {
 	for (const char* Icon : {"CreateUGC_64x.png", "PackageUGC_64x.png", "DistributeUGC_64x.png"})
 	{
-		WriteFile(std::string("C:/Work/Moravane/Resources/") + Icon, ReadHostFile(fs::path(RESOURCES_DIR) / Icon));
+		WriteFile(std::string("C:/Work/Moravane/Resources/") + Icon, ReadAll(fs::path(RESOURCES_DIR) / Icon));
 	}
-	WriteFile("C:/Work/Engine/Content/Slate/Checkerboard.png", ReadHostFile(fs::path(RESOURCES_DIR) / "Icon128.png"));
+	WriteFile("C:/Work/Engine/Content/Slate/Checkerboard.png", ReadAll(fs::path(RESOURCES_DIR) / "Icon128.png"));
 }
 
 std::string FSandboxTest::ReadFile(const std::string& WindowsPath) const
 {
-	return ReadHostFile(Host(WindowsPath));
+	return ReadAll(Host(WindowsPath));
 }
 
 bool FSandboxTest::Exists(const std::string& WindowsPath) const
@@ -108,10 +112,16 @@ void FSandboxTest::InstallRecordingTool(const std::string& WindowsPath, int Exit
 	std::ofstream(Path.string() + ".exitcode") << ExitCode;
 }
 
+// What the recording tool left beside itself for one call: "<tool>.call<N>.<Kind>".
+fs::path FSandboxTest::ToolCallRecord(const std::string& ToolWindowsPath, int CallNumber, const std::string& Kind) const
+{
+	return Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + "." + Kind;
+}
+
 int FSandboxTest::ToolCallCount(const std::string& ToolWindowsPath) const
 {
 	int Count = 0;
-	while (fs::exists(Host(ToolWindowsPath).string() + ".call" + std::to_string(Count + 1) + ".args"))
+	while (fs::exists(ToolCallRecord(ToolWindowsPath, Count + 1, "args")))
 	{
 		++Count;
 	}
@@ -120,17 +130,17 @@ int FSandboxTest::ToolCallCount(const std::string& ToolWindowsPath) const
 
 std::vector<std::string> FSandboxTest::ToolCallArguments(const std::string& ToolWindowsPath, int CallNumber) const
 {
-	return SplitLines(ReadHostFile(Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + ".args"));
+	return SplitLines(ReadAll(ToolCallRecord(ToolWindowsPath, CallNumber, "args")));
 }
 
 std::string FSandboxTest::ToolCallResponseFile(const std::string& ToolWindowsPath, int CallNumber) const
 {
-	return ReadHostFile(Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + ".response");
+	return ReadAll(ToolCallRecord(ToolWindowsPath, CallNumber, "response"));
 }
 
 std::string FSandboxTest::ToolCallPackedFile(const std::string& ToolWindowsPath, int CallNumber, const std::string& MountPath) const
 {
-	return ReadHostFile(fs::path(Host(ToolWindowsPath).string() + ".call" + std::to_string(CallNumber) + ".packed") / MountPath);
+	return ReadAll(ToolCallRecord(ToolWindowsPath, CallNumber, "packed") / MountPath);
 }
 
 std::vector<std::string> FSandboxTest::LogLines() const

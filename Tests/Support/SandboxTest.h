@@ -30,6 +30,9 @@ protected:
 	// The default world on this test's drive root; change it and pass it to ResetWorld.
 	StandIn::FWorld DefaultWorld() const;
 	void ResetWorld(const StandIn::FWorld& World);
+	// The active culture translates the localised text of this namespace and key; it starts a fresh world
+	// from the current one.
+	void Translate(const std::string& Namespace, const std::string& Key, const std::string& Translation);
 
 	// The images an installed editor has for the module's style set: the project's Resources, copied from
 	// the repository as a game project gets them, and the checkerboard of every style set's default brush.
@@ -51,6 +54,7 @@ protected:
 	std::string ToolCallResponseFile(const std::string& ToolWindowsPath, int CallNumber) const;
 	// A file the response file handed to the tool named, kept as the tool saw it, by its mount path.
 	std::string ToolCallPackedFile(const std::string& ToolWindowsPath, int CallNumber, const std::string& MountPath) const;
+	std::filesystem::path ToolCallRecord(const std::string& ToolWindowsPath, int CallNumber, const std::string& Kind) const;
 
 	// Log lines as the output log shows them, and message box texts, in order.
 	std::vector<std::string> LogLines() const;
@@ -61,6 +65,22 @@ protected:
 	std::filesystem::path Root;
 };
 
+// Engine strings as UTF-8, to be compared case-sensitively.
+inline std::string Utf8(const FString& Text)
+{
+	return StandIn::ToUtf8(Text);
+}
+inline std::string Utf8(const FText& Text)
+{
+	return StandIn::ToUtf8(Text.ToString());
+}
+inline std::string Utf8(const FName& Name)
+{
+	return StandIn::ToUtf8(Name.ToString());
+}
+
+// The bytes of a file on the host; empty when there is none.
+std::string ReadAll(const std::filesystem::path& Path);
 std::vector<std::string> SplitLines(const std::string& Text);
 // A command run by the host's /bin/sh, with the wait status the host's system(3) gives. A test program is
 // linked with the stand-in, whose system() is the Windows runtime's and runs cmd.exe.
