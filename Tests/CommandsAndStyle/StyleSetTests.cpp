@@ -44,18 +44,6 @@ TEST_F(FCommandsAndStyleTest, ShutdownWithoutInitializeStopsTheProgram)
 	EXPECT_DEATH(FUGCEditorStyle::Shutdown(), "Assertion failed");
 }
 
-TEST_F(FCommandsAndStyleTest, ReloadTexturesAsksTheRendererWhenSlateIsUp)
-{
-	StandIn::FWorld World = DefaultWorld();
-	World.bSlateInitialized = true;
-	ResetWorld(World);
-	FUGCEditorStyle::Initialize();
-
-	FUGCEditorStyle::ReloadTextures();
-
-	EXPECT_EQ(StandIn::JournalRecords<StandIn::FTextureReloadRecord>().size(), 1u);
-}
-
 TEST_F(FCommandsAndStyleTest, ReloadTexturesDoesNothingWithoutSlate)
 {
 	FUGCEditorStyle::Initialize();

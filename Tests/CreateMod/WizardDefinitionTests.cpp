@@ -45,10 +45,6 @@ TEST_F(FWizardDefinitionTest, ASelectionReplacesThePreviousOneInTheReportedOrder
 	ASSERT_EQ(Selected.Num(), 2);
 	EXPECT_EQ(StandIn::ToUtf8(Selected[0]->Name.ToString()), "Blank");
 	EXPECT_EQ(StandIn::ToUtf8(Selected[1]->Name.ToString()), "Scenario");
-
-	Definition->ClearTemplateSelection();
-	EXPECT_EQ(Definition->GetSelectedTemplates().Num(), 0);
-	EXPECT_TRUE(Definition->HasValidTemplateSelection());
 }
 
 TEST_F(FWizardDefinitionTest, ASourceFolderInAChosenTemplateMakesModules)
@@ -60,14 +56,6 @@ TEST_F(FWizardDefinitionTest, ASourceFolderInAChosenTemplateMakesModules)
 	EXPECT_FALSE(Definition->HasModules());
 	Select({0, 1});
 	EXPECT_TRUE(Definition->HasModules());
-}
-
-TEST_F(FWizardDefinitionTest, ASourceFolderInTheBaseTemplateMakesNoModules)
-{
-	WriteFile("C:/Work/Moravane/Templates/BaseTemplate/Source/PLUGIN_NAME/PLUGIN_NAME.Build.cs", "x");
-	Select({3});
-
-	EXPECT_FALSE(Definition->HasModules());
 }
 
 TEST_F(FWizardDefinitionTest, ContentIsAllowedWithoutASelectionAndWhenAChosenTemplateAllowsIt)

@@ -89,7 +89,7 @@ TEST_F(FPakingDialogTest, OriginalBoxesLogTheirRowIndexFromZero)
 	EXPECT_EQ(StandIn::Paint(OriginalCheckBox(0)).CheckState, ECheckBoxState::Unchecked);
 }
 
-TEST_F(FPakingDialogTest, ACheckReportedForAMarkedRowIsLoggedAgain)
+TEST_F(FPakingDialogTest, AMarkedRowLogsACheckAgainAndIsUnmarkedByAnUndeterminedBox)
 {
 	CookPlugin("Alpha");
 	OpenDialog();
@@ -97,20 +97,9 @@ TEST_F(FPakingDialogTest, ACheckReportedForAMarkedRowIsLoggedAgain)
 
 	const size_t Mark = JournalMark();
 	StandIn::ChangeCheckState(OriginalCheckBox(0), ECheckBoxState::Checked);
-
-	EXPECT_EQ(StandIn::JournalLines(Mark), (FStrings{"LogTemp: Plugin at index 0 marked as original"}));
-}
-
-TEST_F(FPakingDialogTest, UndeterminedOriginalBoxUnmarksAMarkedRow)
-{
-	CookPlugin("Alpha");
-	OpenDialog();
-	ASSERT_TRUE(AddEntry("Alpha", true));
-
-	const size_t Mark = JournalMark();
 	StandIn::ChangeCheckState(OriginalCheckBox(0), ECheckBoxState::Undetermined);
 
-	EXPECT_EQ(StandIn::JournalLines(Mark), (FStrings{"LogTemp: Plugin at index 0 unmarked as original"}));
+	EXPECT_EQ(StandIn::JournalLines(Mark), (FStrings{"LogTemp: Plugin at index 0 marked as original", "LogTemp: Plugin at index 0 unmarked as original"}));
 	const std::optional<FHandedRun> Run = DistributeAndSeeWhatThePipelineGot();
 	ASSERT_TRUE(Run.has_value());
 	EXPECT_EQ(Run->Plugins, (std::vector<FHandedPlugin>{{"Alpha", false, {}}}));
@@ -268,24 +257,20 @@ TEST_F(FPakingDialogTest, DistributeWithoutRowsAsksForAPluginAndRunsNothing)
 	EXPECT_EQ(MessageBoxTypes(), (std::vector<EAppMsgType::Type>{EAppMsgType::Ok}));
 }
 
-TEST_F(FPakingDialogTest, DistributeWithoutRowsAsksForAPluginEvenWithoutAPipeline)
+TEST_F(FPakingDialogTest, WithoutAPipelineDistributeStillAsksForAPluginButNeitherItNorResetDoesMore)
 {
 	BuildDialogWithoutPipeline({"Alpha"});
-
 	StandIn::ClickButton(DistributeButton());
-
 	EXPECT_EQ(StandIn::JournalLines(), (FStrings{"Message: No plugins have been added. Please add a plugin before distributing."}));
-}
-
-TEST_F(FPakingDialogTest, DistributeWithoutAPipelineDoesNothing)
-{
-	BuildDialogWithoutPipeline({"Alpha"});
 	ASSERT_TRUE(AddEntry("Alpha", true));
 
 	const size_t Mark = JournalMark();
 	EXPECT_TRUE(StandIn::ClickButton(DistributeButton()).IsEventHandled());
+	EXPECT_TRUE(StandIn::ClickButton(ResetButton()).IsEventHandled());
 
 	EXPECT_EQ(StandIn::JournalLines(Mark), FStrings{});
+	EXPECT_EQ(EntryCount(), 1u);
+	EXPECT_EQ(Shown(ComboFace(0)), "Alpha");
 }
 
 // "Reset"
@@ -325,19 +310,6 @@ TEST_F(FPakingDialogTest, ResetKeepsTheEditionTickForTheNextRun)
 	EXPECT_EQ(StandIn::Paint(EditionCheckBox()).CheckState, ECheckBoxState::Checked);
 	ASSERT_TRUE(Run.has_value());
 	EXPECT_TRUE(Run->bCalverly5Plugin);
-}
-
-TEST_F(FPakingDialogTest, ResetWithoutAPipelineKeepsTheRows)
-{
-	BuildDialogWithoutPipeline({"Alpha"});
-	ASSERT_TRUE(AddEntry("Alpha"));
-
-	const size_t Mark = JournalMark();
-	EXPECT_TRUE(StandIn::ClickButton(ResetButton()).IsEventHandled());
-
-	EXPECT_EQ(StandIn::JournalLines(Mark), FStrings{});
-	EXPECT_EQ(EntryCount(), 1u);
-	EXPECT_EQ(Shown(ComboFace(0)), "Alpha");
 }
 
 // Row widgets that outlive their row are a programming error the engine's bounds check stops.

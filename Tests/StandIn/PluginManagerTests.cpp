@@ -25,41 +25,31 @@ class FPluginManagerTest : public FSandboxTest
 {
 };
 
-TEST_F(FPluginManagerTest, EnginePluginsAreOfTheEngineAndLoadedFromIt)
+TEST_F(FPluginManagerTest, EnginePluginsAreTheEnginesAndProjectPluginsAndModsTheProjectsWithRelativeFolders)
 {
 	WriteFile("C:/Work/Engine/Plugins/Editor/PluginBrowser/PluginBrowser.uplugin", Descriptor(false));
-	StandIn::DiscoverPlugins();
-
-	const TSharedPtr<IPlugin> Plugin = IPluginManager::Get().FindPlugin(TEXT("PluginBrowser"));
-	ASSERT_TRUE(Plugin.IsValid());
-	EXPECT_EQ(Plugin->GetType(), EPluginType::Engine);
-	EXPECT_EQ(Plugin->GetLoadedFrom(), EPluginLoadedFrom::Engine);
-	EXPECT_EQ(Utf8(Plugin->GetBaseDir()), "../../../Engine/Plugins/Editor/PluginBrowser");
-	EXPECT_EQ(Utf8(Plugin->GetDescriptorFileName()), "../../../Engine/Plugins/Editor/PluginBrowser/PluginBrowser.uplugin");
-}
-
-TEST_F(FPluginManagerTest, ProjectPluginsAndModsAreLoadedFromTheProjectWithRelativeFolders)
-{
 	WriteFile("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin", Descriptor());
 	WriteFile("C:/Work/Moravane/Mods/OtherMod/OtherMod.uplugin", Descriptor());
 	StandIn::DiscoverPlugins();
 
+	const TSharedPtr<IPlugin> Engine = IPluginManager::Get().FindPlugin(TEXT("PluginBrowser"));
 	const TSharedPtr<IPlugin> Route = IPluginManager::Get().FindPlugin(TEXT("MyRoute"));
-	ASSERT_TRUE(Route.IsValid());
+	const TSharedPtr<IPlugin> Mod = IPluginManager::Get().FindPlugin(TEXT("OtherMod"));
+	ASSERT_TRUE(Engine.IsValid() && Route.IsValid() && Mod.IsValid());
+	EXPECT_EQ(Engine->GetType(), EPluginType::Engine);
+	EXPECT_EQ(Engine->GetLoadedFrom(), EPluginLoadedFrom::Engine);
+	EXPECT_EQ(Utf8(Engine->GetBaseDir()), "../../../Engine/Plugins/Editor/PluginBrowser");
+	EXPECT_EQ(Utf8(Engine->GetDescriptorFileName()), "../../../Engine/Plugins/Editor/PluginBrowser/PluginBrowser.uplugin");
 	EXPECT_EQ(Route->GetType(), EPluginType::Project);
 	EXPECT_EQ(Route->GetLoadedFrom(), EPluginLoadedFrom::Project);
 	EXPECT_EQ(Utf8(Route->GetBaseDir()), "../../../Moravane/Plugins/MyRoute");
 	EXPECT_EQ(Utf8(Route->GetContentDir()), "../../../Moravane/Plugins/MyRoute/Content");
 	EXPECT_EQ(Utf8(Route->GetMountedAssetPath()), "/MyRoute/");
-
-	const TSharedPtr<IPlugin> Mod = IPluginManager::Get().FindPlugin(TEXT("OtherMod"));
-	ASSERT_TRUE(Mod.IsValid());
 	EXPECT_EQ(Mod->GetType(), EPluginType::Mod);
 	EXPECT_EQ(Mod->GetLoadedFrom(), EPluginLoadedFrom::Project);
 	EXPECT_EQ(Utf8(Mod->GetBaseDir()), "../../../Moravane/Mods/OtherMod");
 }
 
-// Plugin folders are given relative to the binaries folder where one reaches them, in full otherwise.
 TEST_F(FPluginManagerTest, AProjectBesideTheEngineFolderIsReachedOneLevelHigherAndOneOnAnotherDriveInFull)
 {
 	std::vector<std::string> BaseDirs;
