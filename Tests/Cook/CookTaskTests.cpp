@@ -92,24 +92,3 @@ TEST_F(FCookTest, TaskIsNamedAfterThePluginAndTheDlcAfterItsDescriptorFile)
 	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->TaskName.ToString()), "Cooking Listed");
 	EXPECT_EQ(StandIn::ToUtf8(Tasks[0]->CommandLine), "BuildDLC -Project=\"C:/Work/Moravane/Moravane.uproject\" -PluginPath=\"C:/Work/Moravane/Plugins/Foo/Foo.uplugin\" -ue4exe=\"C:/Work/\"Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe -nocompile -TargetPlatform=WindowsNoEditor -dlcName=\"Foo\",\"Foo\" ");
 }
-
-TEST_F(FCookTest, TheAutomationToolReceivesTheCommandLinesArgumentsAsWindowsSplitsThem)
-{
-	WritePlugin("C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin");
-	StandIn::DiscoverPlugins();
-
-	ASSERT_TRUE(StandIn::ClickMenuEntry(OpenDropDown(), TEXT("MyRoute")));
-	StandIn::WaitForBackgroundTasks();
-
-	EXPECT_EQ(LogLines(), (std::vector<std::string>{
-							  "LogTemp: Display: Adding MyRoute",
-							  "UATHelper: Cooking MyRoute (Windows): BuildDLC",
-							  "UATHelper: Cooking MyRoute (Windows): -Project=C:/Work/Moravane/Moravane.uproject",
-							  "UATHelper: Cooking MyRoute (Windows): -PluginPath=C:/Work/Moravane/Plugins/MyRoute/MyRoute.uplugin",
-							  "UATHelper: Cooking MyRoute (Windows): -ue4exe=C:/Work/Moravane/Binaries/Win64/CalverlyPublicEditor-Cmd.exe",
-							  "UATHelper: Cooking MyRoute (Windows): -nocompile",
-							  "UATHelper: Cooking MyRoute (Windows): -TargetPlatform=WindowsNoEditor",
-							  "UATHelper: Cooking MyRoute (Windows): -dlcName=MyRoute,MyRoute",
-						  }));
-	EXPECT_EQ(MessageBoxTexts(), std::vector<std::string>());
-}

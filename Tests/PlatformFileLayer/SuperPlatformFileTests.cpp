@@ -201,13 +201,6 @@ TEST_F(FSuperPlatformFileTest, TickingTheChainTicksTheLayersAboveButPassesTheInn
 	EXPECT_EQ(Lower.TickCount, 0);
 }
 
-TEST_F(FSuperPlatformFileTest, RemovingTheLayerFromTheTopLeavesThePhysicalLayerThere)
-{
-	FPlatformFileManager::Get().SetPlatformFile(Layer);
-	FPlatformFileManager::Get().RemovePlatformFile(&Layer);
-	EXPECT_EQ(&FPlatformFileManager::Get().GetPlatformFile(), &IPlatformFile::GetPlatformPhysical());
-}
-
 TEST_F(FSuperPlatformFileTest, RemovingTheLayerBelowAnotherJoinsThatOneToThePhysicalLayer)
 {
 	FLowerLayerDouble Above;

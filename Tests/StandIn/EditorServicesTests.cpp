@@ -8,7 +8,6 @@
 #include "Interfaces/IMainFrameModule.h"
 #include "Modules/ModuleManager.h"
 #include "SandboxTest.h"
-#include "StandIn/Records/SavePromptRecord.h"
 #include "Styling/StyleDefaults.h"
 #include "UObject/Package.h"
 #include "Widgets/SWindow.h"
@@ -235,61 +234,4 @@ TEST_F(FSandboxTest, DirtyPackagesAreListedByKindInTheWorldsOrder)
 	FEditorFileUtils::GetDirtyWorldPackages(Packages);
 
 	EXPECT_EQ(PackageNames(Packages), std::vector<std::string>({"/Route/Data", "/Game/Maps/Start", "/Route/Maps/Main"}));
-}
-
-TEST_F(FSandboxTest, SavePromptListsMapsFirstAndSaveAllLeavesNothingDirty)
-{
-	StandIn::FWorld World = DefaultWorld();
-	World.DirtyPackages = {{TEXT("/Route/Data"), false}, {TEXT("/Route/Maps/Main"), true}};
-	ResetWorld(World);
-	bool bNeededSaving = false;
-
-	EXPECT_TRUE(FEditorFileUtils::SaveDirtyPackages(true, true, true, false, false, true, &bNeededSaving));
-
-	EXPECT_TRUE(bNeededSaving);
-	const std::vector<const StandIn::FSavePromptRecord*> Prompts = StandIn::JournalRecords<StandIn::FSavePromptRecord>();
-	ASSERT_EQ(Prompts.size(), 1u);
-	EXPECT_TRUE(Prompts[0]->bPromptShown);
-	EXPECT_TRUE(Prompts[0]->bOutPackagesNeededSavingGiven);
-	ASSERT_EQ(Prompts[0]->PackageNames.size(), 2u);
-	EXPECT_EQ(StandIn::ToUtf8(Prompts[0]->PackageNames[0]), "/Route/Maps/Main");
-	EXPECT_EQ(StandIn::ToUtf8(Prompts[0]->PackageNames[1]), "/Route/Data");
-	TArray<UPackage*> Dirty;
-	FEditorFileUtils::GetDirtyContentPackages(Dirty);
-	FEditorFileUtils::GetDirtyWorldPackages(Dirty);
-	EXPECT_EQ(Dirty.Num(), 0);
-}
-
-TEST_F(FSandboxTest, DeclinedSavePromptSucceedsAndCancelledOneFailsBothSavingNothing)
-{
-	StandIn::FWorld World = DefaultWorld();
-	World.DirtyPackages = {{TEXT("/Route/Data"), false}};
-	World.SavePromptAnswer = StandIn::ESavePromptAnswer::DontSave;
-	ResetWorld(World);
-	EXPECT_TRUE(FEditorFileUtils::SaveDirtyPackages(true, true, true));
-
-	World.SavePromptAnswer = StandIn::ESavePromptAnswer::Cancel;
-	ResetWorld(World);
-	EXPECT_FALSE(FEditorFileUtils::SaveDirtyPackages(true, true, true));
-
-	TArray<UPackage*> Dirty;
-	FEditorFileUtils::GetDirtyContentPackages(Dirty);
-	EXPECT_EQ(PackageNames(Dirty), std::vector<std::string>({"/Route/Data"}));
-}
-
-TEST_F(FSandboxTest, SavingWithoutPromptSavesOnlyTheKindsAskedFor)
-{
-	StandIn::FWorld World = DefaultWorld();
-	World.DirtyPackages = {{TEXT("/Route/Data"), false}, {TEXT("/Route/Maps/Main"), true}};
-	World.SavePromptAnswer = StandIn::ESavePromptAnswer::Cancel;
-	ResetWorld(World);
-
-	EXPECT_TRUE(FEditorFileUtils::SaveDirtyPackages(false, false, true));
-
-	ASSERT_EQ(StandIn::JournalRecords<StandIn::FSavePromptRecord>().size(), 1u);
-	EXPECT_FALSE(StandIn::JournalRecords<StandIn::FSavePromptRecord>()[0]->bPromptShown);
-	TArray<UPackage*> Dirty;
-	FEditorFileUtils::GetDirtyContentPackages(Dirty);
-	FEditorFileUtils::GetDirtyWorldPackages(Dirty);
-	EXPECT_EQ(PackageNames(Dirty), std::vector<std::string>({"/Route/Maps/Main"}));
 }
