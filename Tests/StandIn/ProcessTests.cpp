@@ -292,6 +292,18 @@ TEST_F(FStandInProcessTest, CmdExeRunsAProgramThatIsNotABuiltInWithTheRestOfTheL
 	EXPECT_EQ(ToolCallArguments("C:/Tools/Recorder.exe", 1), (std::vector<std::string>{"a b", "c\"d"}));
 }
 
+TEST_F(FStandInProcessTest, CmdExeRunsABatchFileWhoseWholeCommandIsQuotedAgainAfterSlashC)
+{
+	InstallRecordingTool("C:/Engine Files/RunUAT.bat", 3);
+
+	int32 ReturnCode = -1;
+	ASSERT_TRUE(FPlatformProcess::ExecProcess(TEXT("cmd.exe"), TEXT("/c \"\"C:/Engine Files/RunUAT.bat\" BuildDLC -Project=\"C:/A B/P.uproject\" -ue4exe=\"C:/W/\"M/x.exe -dlcName=\"N\",\"N\" \""), &ReturnCode, nullptr, nullptr));
+
+	EXPECT_EQ(ReturnCode, 3);
+	EXPECT_EQ(ReadFile("C:/Engine Files/RunUAT.bat.call1.argv0"), "C:/Engine Files/RunUAT.bat");
+	EXPECT_EQ(ToolCallArguments("C:/Engine Files/RunUAT.bat", 1), (std::vector<std::string>{"BuildDLC", "-Project=C:/A B/P.uproject", "-ue4exe=C:/W/M/x.exe", "-dlcName=N,N"}));
+}
+
 TEST_F(FStandInProcessTest, CmdExeStartedWithoutAWindowsCommandLineRefusesToGuessOne)
 {
 	std::filesystem::create_directories(Host("C:/pellow"));
