@@ -20,7 +20,11 @@ TEMPLATE_ARGUMENTS = {
 	"TSharedPtr": "SWidget, ESPMode::Fast", "TSharedRef": "SWidget, ESPMode::Fast", "TWeakPtr": "SWidget, ESPMode::Fast",
 	"TSharedFromThis": "SWidget, ESPMode::Fast", "TArray": "FString", "TMap": "FString, int32", "TOptional": "FString",
 	"TAttribute": "FText", "TUniquePtr": "FString", "TCommands": "FProbeCommands", "SComboBox": "TSharedPtr<FString>",
-	"TStringView": "TCHAR",
+	"TStringView": "TCHAR", "TChar": "TCHAR", "TIsValidVariadicFunctionArg": "int32", "TIsArrayOrRefOfType": "TCHAR, TCHAR",
+	"FLogCategory": "ELogVerbosity::Log, ELogVerbosity::All", "FRawPtrProxy": "SWidget", "TBaseDelegate": "void, int32",
+	"TSlateBaseNamedArgs": "SButton", "NamedSlotProperty": "SBox::FArguments", "TSlotBase": "FSimpleSlot",
+	"TSupportsContentPaddingMixin": "FSimpleSlot", "TSupportsOneChildMixin": "FSimpleSlot",
+	"TPanelChildren": "SVerticalBox::FSlot", "TSlateDelegates": "TSharedPtr<FString>",
 }
 
 
