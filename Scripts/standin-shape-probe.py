@@ -25,6 +25,8 @@ TEMPLATE_ARGUMENTS = {
 	"TSlateBaseNamedArgs": "SButton", "NamedSlotProperty": "SBox::FArguments", "TSlotBase": "FSimpleSlot",
 	"TSupportsContentPaddingMixin": "FSimpleSlot", "TSupportsOneChildMixin": "FSimpleSlot",
 	"TPanelChildren": "SVerticalBox::FSlot", "TSlateDelegates": "TSharedPtr<FString>",
+	"TDecl": "SButton, RequiredArgs::T0RequiredArgs", "T2RequiredArgs": "int32&&, FString&&",
+	"TEnumAsByte": "ESlateBrushDrawType::Type",
 }
 
 
@@ -251,6 +253,11 @@ class Walker:
 				if kind == "CXXRecordDecl" and not child.get("completeDefinition"):
 					self.skip(child)
 					continue
+				if access == "protected" and kind in ("TypedefDecl", "TypeAliasDecl"):
+					# Only a derived class may name it, as the module's own classes could.
+					members.append((self.origin(qualified + "::" + child["name"]), "using Nested%d = Self::%s;" % (self.serial_next(), child["name"])))
+					self.skip(child)
+					continue
 				self.declaration(child, scope + [node["name"]])
 				continue
 			if child.get("explicitlyDeleted") or "auto" in child.get("type", {}).get("qualType", ""):
@@ -289,6 +296,9 @@ class Walker:
 		origin = self.origin(qualified + "::" + (name or kind))
 		if kind in ("CXXMethodDecl", "CXXConversionDecl"):
 			parts = split_function_type(child["type"]["qualType"])
+			if kind == "CXXConversionDecl":
+				# In a class template clang names the operator after the canonical parameter; the written type is its name.
+				name = "operator " + parts[0]
 			if name == "operator=" and access != "public":
 				return None
 			if name == "operator=":
