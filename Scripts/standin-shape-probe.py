@@ -255,7 +255,8 @@ class Walker:
 					continue
 				if access == "protected" and kind in ("TypedefDecl", "TypeAliasDecl"):
 					# Only a derived class may name it, as the module's own classes could.
-					members.append((self.origin(qualified + "::" + child["name"]), "using Nested%d = Self::%s;" % (self.serial_next(), child["name"])))
+					members.append((self.origin(qualified + "::" + child["name"]), "static_assert(std::is_same<Self::%s, %s>::value, \"\");"
+					                % (child["name"], child["type"]["qualType"])))
 					self.skip(child)
 					continue
 				self.declaration(child, scope + [node["name"]])
@@ -293,12 +294,12 @@ class Walker:
 
 	def member(self, child, qualified, definition, access):
 		kind, name = child.get("kind"), child.get("name")
+		if kind == "CXXConversionDecl":
+			# In a class template clang names the operator after the canonical parameter; the written type is its name.
+			name = "operator " + split_function_type(child["type"]["qualType"])[0]
 		origin = self.origin(qualified + "::" + (name or kind))
 		if kind in ("CXXMethodDecl", "CXXConversionDecl"):
 			parts = split_function_type(child["type"]["qualType"])
-			if kind == "CXXConversionDecl":
-				# In a class template clang names the operator after the canonical parameter; the written type is its name.
-				name = "operator " + parts[0]
 			if name == "operator=" and access != "public":
 				return None
 			if name == "operator=":
