@@ -29,6 +29,8 @@ TEMPLATE_ARGUMENTS = {
 	"TSlateBaseNamedArgs": "SButton", "NamedSlotProperty": "SBox::FArguments", "TSlotBase": "FSimpleSlot",
 	"TSupportsContentPaddingMixin": "FSimpleSlot", "TSupportsOneChildMixin": "FSimpleSlot",
 	"TPanelChildren": "SVerticalBox::FSlot", "TSlateDelegates": "TSharedPtr<FString>",
+	"TDecl": "SButton, RequiredArgs::T0RequiredArgs", "T2RequiredArgs": "int32&&, FString&&",
+	"TEnumAsByte": "ESlateBrushDrawType::Type",
 }
 
 
@@ -265,6 +267,12 @@ class Walker:
 				if kind == "CXXRecordDecl" and not child.get("completeDefinition"):
 					self.skip(child)
 					continue
+				if access == "protected" and kind in ("TypedefDecl", "TypeAliasDecl"):
+					# Only a derived class may name it, as the module's own classes could.
+					members.append((self.origin(qualified + "::" + child["name"]), "static_assert(std::is_same<Self::%s, %s>::value, \"\");"
+					                % (child["name"], child["type"]["qualType"])))
+					self.skip(child)
+					continue
 				self.declaration(child, scope + [node["name"]])
 				continue
 			if child.get("explicitlyDeleted") or "auto" in child.get("type", {}).get("qualType", ""):
@@ -300,6 +308,9 @@ class Walker:
 
 	def member(self, child, qualified, definition, access):
 		kind, name = child.get("kind"), child.get("name")
+		if kind == "CXXConversionDecl":
+			# In a class template clang names the operator after the canonical parameter; the written type is its name.
+			name = "operator " + split_function_type(child["type"]["qualType"])[0]
 		origin = self.origin(qualified + "::" + (name or kind))
 		if kind in ("CXXMethodDecl", "CXXConversionDecl"):
 			parts = split_function_type(child["type"]["qualType"])
