@@ -3,8 +3,9 @@
 could: each class, its bases, public and protected members with their exact types (static or not, virtual or
 not), free functions, enumerators, type aliases, variables and macros.
 
-Compiled against the real engine headers, every error of the probe is a stand-in declaration that UE 4.26 lacks
-or declares in another shape. Usage: standin-shape-probe.py <stand-in Public folder> <clang JSON AST> <probe.cpp>
+The probe is one file a header, which includes only that header before its checks. Compiled against the real
+engine headers, every error of a probe is a stand-in declaration that UE 4.26 lacks, declares in another shape,
+or declares in another header. Usage: standin-shape-probe.py <stand-in Public folder> <clang JSON AST> <probe folder>
 The AST is clang's -ast-dump=json of one file that includes every public header of the stand-in."""
 import json
 import os
@@ -13,28 +14,46 @@ import sys
 
 PUBLIC_DIR = os.path.realpath(sys.argv[1])
 AST_PATH = sys.argv[2]
-PROBE_PATH = sys.argv[3]
+PROBE_DIR = sys.argv[3]
 DETAIL_NAMESPACE = "StandIn"
+# The command set with which the probe instantiates TCommands.
+PROBE_COMMANDS = ("struct FProbeCommands : TCommands<FProbeCommands>\n{\n\tFProbeCommands() : TCommands(TEXT(\"Probe\"), FText(), NAME_None, NAME_None) {}\n"
+                  "\tvirtual void RegisterCommands() override {}\n};\n\n")
 # The arguments with which the probe instantiates each class template whose members it uses.
 TEMPLATE_ARGUMENTS = {
 	"TSharedPtr": "SWidget, ESPMode::Fast", "TSharedRef": "SWidget, ESPMode::Fast", "TWeakPtr": "SWidget, ESPMode::Fast",
 	"TSharedFromThis": "SWidget, ESPMode::Fast", "TArray": "FString", "TMap": "FString, int32", "TOptional": "FString",
 	"TAttribute": "FText", "TUniquePtr": "FString", "TCommands": "FProbeCommands", "SComboBox": "TSharedPtr<FString>",
-	"TStringView": "TCHAR",
+	"TStringView": "TCHAR", "TChar": "TCHAR", "TIsValidVariadicFunctionArg": "int32", "TIsArrayOrRefOfType": "TCHAR, TCHAR",
+	"FLogCategory": "ELogVerbosity::Log, ELogVerbosity::All", "FRawPtrProxy": "SWidget", "TBaseDelegate": "void, int32",
+	"TSlateBaseNamedArgs": "SButton", "NamedSlotProperty": "SBox::FArguments", "TSlotBase": "FSimpleSlot",
+	"TSupportsContentPaddingMixin": "FSimpleSlot", "TSupportsOneChildMixin": "FSimpleSlot",
+	"TPanelChildren": "SVerticalBox::FSlot", "TSlateDelegates": "TSharedPtr<FString>",
+	"TDecl": "SButton, RequiredArgs::T0RequiredArgs", "T2RequiredArgs": "int32&&, FString&&",
+	"TEnumAsByte": "ESlateBrushDrawType::Type",
 }
 
 
 class Probe:
-	def __init__(self):
-		self.lines = []
-		self.count = 0
-		self.unprobed = []
+	"""The checks of each header: those that name its declarations, and those that use the members of its
+	classes, whose parameter and argument types a module has from wherever it included them."""
 
-	def add(self, origin, code):
+	def __init__(self):
+		self.sections = {}
+		self.count = 0
+
+	def add(self, origin, code, member_use=False):
 		"""One check; the comment before it names the declaration, so that a compiler error points at it."""
 		self.count += 1
-		self.lines.append("// %s" % origin)
-		self.lines.append(code)
+		self.append(header_of(origin), "// %s\n%s" % (origin, code), member_use)
+
+	def append(self, header, text, member_use=False):
+		self.sections.setdefault(header, ([], []))[1 if member_use else 0].append(text)
+
+
+def header_of(origin):
+	"""'::FName::ToString (UObject/NameTypes.h)' -> 'UObject/NameTypes.h'."""
+	return re.search(r"\(([^()]+)\)$", origin).group(1)
 
 
 def split_function_type(qual_type):
@@ -214,6 +233,7 @@ class Walker:
 
 	def record(self, node, scope, template=None):
 		qualified = self.qualify(scope, node["name"])
+		header = header_of(self.origin(qualified))
 		definition = node.get("definitionData", {})
 		final = any(a.get("kind") == "FinalAttr" for a in node.get("inner", []))
 		members = []
@@ -247,6 +267,12 @@ class Walker:
 				if kind == "CXXRecordDecl" and not child.get("completeDefinition"):
 					self.skip(child)
 					continue
+				if access == "protected" and kind in ("TypedefDecl", "TypeAliasDecl"):
+					# Only a derived class may name it, as the module's own classes could.
+					members.append((self.origin(qualified + "::" + child["name"]), "static_assert(std::is_same<Self::%s, %s>::value, \"\");"
+					                % (child["name"], child["type"]["qualType"])))
+					self.skip(child)
+					continue
 				self.declaration(child, scope + [node["name"]])
 				continue
 			if child.get("explicitlyDeleted") or "auto" in child.get("type", {}).get("qualType", ""):
@@ -265,7 +291,7 @@ class Walker:
 			return
 		if final and not template:
 			for origin, code in members:
-				self.probe.add(origin, "static void %s() { %s }" % (self.name(), code.replace("Self::", qualified + "::")))
+				self.probe.add(origin, "static void %s() { %s }" % (self.name(), code.replace("Self::", qualified + "::")), True)
 			return
 		# Inside a class derived from the probed one, its nested names and protected members are in reach as
 		# they are for a module class that derives from it.
@@ -273,15 +299,18 @@ class Walker:
 		body = [self.probe_body_line(origin, code.replace("&Self::", "&%s::" % probe).replace("&%s::operator=" % probe, "&Self::operator=").replace("decltype(Self::", "decltype(%s::" % probe)) for origin, code in members]
 		self.probe.count += len(members)
 		aliases = "".join("\tusing %s = typename Self::%s;\n" % (n, n) for n in nested_types)
-		self.probe.lines.append("%sstruct %s : %s\n{\n\tusing Self = %s;\n%s\tstatic void Uses()\n\t{\n%s\n\t}\n};%s"
+		self.probe.append(header, "%sstruct %s : %s\n{\n\tusing Self = %s;\n%s\tstatic void Uses()\n\t{\n%s\n\t}\n};%s"
 		                        % ("template <%s>\n" % template[0] if template else "", probe, qualified, qualified, aliases,
-		                           "\n".join(body), "\ntemplate struct %s<%s>;" % (probe, template[2]) if template else ""))
+		                           "\n".join(body), "\ntemplate struct %s<%s>;" % (probe, template[2]) if template else ""), True)
 
 	def probe_body_line(self, origin, code):
 		return "\t\t// %s\n\t\t%s" % (origin, code)
 
 	def member(self, child, qualified, definition, access):
 		kind, name = child.get("kind"), child.get("name")
+		if kind == "CXXConversionDecl":
+			# In a class template clang names the operator after the canonical parameter; the written type is its name.
+			name = "operator " + split_function_type(child["type"]["qualType"])[0]
 		origin = self.origin(qualified + "::" + (name or kind))
 		if kind in ("CXXMethodDecl", "CXXConversionDecl"):
 			parts = split_function_type(child["type"]["qualType"])
@@ -331,6 +360,17 @@ def macros(probe):
 				          "#ifndef %s\n#error %s is not defined\n#endif" % (name, name))
 
 
+def carrier(header, headers):
+	"""The header a module includes to reach this one: itself, or for an .inl the header that includes it."""
+	if header.endswith(".h"):
+		return header
+	for candidate in headers:
+		with open(os.path.join(PUBLIC_DIR, candidate), encoding="utf-8") as handle:
+			if re.search(r'^\s*#\s*include\s+"%s"' % re.escape(header), handle.read(), re.M):
+				return candidate
+	raise SystemExit("standin-shape-probe: no public header includes %s" % header)
+
+
 def main():
 	with open(AST_PATH, encoding="utf-8") as handle:
 		tree = json.load(handle)
@@ -341,14 +381,22 @@ def main():
 	headers = []
 	for folder, _, files in sorted(os.walk(PUBLIC_DIR)):
 		headers += sorted(os.path.relpath(os.path.join(folder, f), PUBLIC_DIR) for f in files if f.endswith(".h"))
-	with open(PROBE_PATH, "w", encoding="utf-8") as out:
-		out.write("// Generated: uses every public declaration of the stand-in engine.\n")
-		out.write("".join('#include "%s"\n' % h for h in headers ))
-		out.write("#include <type_traits>\n\n")
-		out.write("struct FProbeCommands : TCommands<FProbeCommands>\n{\n\tFProbeCommands() : TCommands(TEXT(\"Probe\"), FText(), NAME_None, NAME_None) {}\n"
-		          "\tvirtual void RegisterCommands() override {}\n};\n\n")
-		out.write("\n".join(probe.lines) + "\n")
-	print("%d declarations probed; members not probed of the class templates %s" % (probe.count, ", ".join(walker.unprobed_templates)))
+	os.makedirs(PROBE_DIR, exist_ok=True)
+	for header, (checks, member_uses) in sorted(probe.sections.items()):
+		# The checks that name declarations see only their own header, as a module file that includes just
+		# that header would; a declaration 4.26 keeps in another header fails there. Members are used with
+		# complete parameter and argument types, so those checks come after everything is included.
+		with open(os.path.join(PROBE_DIR, re.sub(r"[/.]", "_", header) + ".cpp"), "w", encoding="utf-8") as out:
+			out.write("// Generated: uses the public declarations of the stand-in's %s.\n" % header)
+			out.write('#include "%s"\n#include <type_traits>\n\n' % carrier(header, headers))
+			out.write("\n".join(checks) + "\n")
+			if member_uses:
+				out.write("\n" + "".join('#include "%s"\n' % h for h in headers))
+				if any("FProbeCommands" in text for text in member_uses):
+					out.write(PROBE_COMMANDS)
+				out.write("\n".join(member_uses) + "\n")
+	print("%d declarations probed in %d headers; members not probed of the class templates %s"
+	      % (probe.count, len(probe.sections), ", ".join(walker.unprobed_templates)))
 
 
 main()

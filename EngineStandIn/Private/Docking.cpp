@@ -21,7 +21,6 @@ namespace
 
 	struct FDockingState
 	{
-		std::vector<std::shared_ptr<FTabSpawnerEntry>> Spawners;
 		std::vector<std::pair<FTabId, FVector2D>> DefaultSizes;
 		std::vector<FOpenTab> OpenTabs;
 	};
@@ -38,16 +37,10 @@ namespace StandIn
 	class FTabManagerAccess
 	{
 	public:
-		static FTabSpawnerEntry* FindSpawner(const FName& TabType)
+		static FTabSpawnerEntry* FindSpawner(const FTabManager& Manager, const FName& TabType)
 		{
-			for (const std::shared_ptr<FTabSpawnerEntry>& Spawner : State().Spawners)
-			{
-				if (Spawner->TabType == TabType)
-				{
-					return Spawner.get();
-				}
-			}
-			return nullptr;
+			const TSharedRef<FTabSpawnerEntry>* Spawner = Manager.NomadTabSpawner->Find(TabType);
+			return Spawner ? &Spawner->Get() : nullptr;
 		}
 
 		static TSharedPtr<SDockTab> Spawn(FTabSpawnerEntry& Spawner, const FTabId& TabId)
@@ -96,10 +89,14 @@ namespace StandIn
 
 		static TSharedRef<FGlobalTabmanager> MakeGlobal() { return MakeShareable(new FGlobalTabmanager()); }
 
+		static void ForgetSpawners() { FGlobalTabmanager::Get()->NomadTabSpawner->Empty(); }
+
 		static std::vector<FWindowMenuTab> ListedTabs()
 		{
+			TArray<TSharedRef<FTabSpawnerEntry>> Spawners;
+			FGlobalTabmanager::Get()->NomadTabSpawner->GenerateValueArray(Spawners);
 			std::vector<FWindowMenuTab> Listed;
-			for (const std::shared_ptr<FTabSpawnerEntry>& Spawner : State().Spawners)
+			for (const TSharedRef<FTabSpawnerEntry>& Spawner : Spawners)
 			{
 				const ETabSpawnerMenuType::Type MenuType = Spawner->MenuType.Get();
 				if (MenuType != ETabSpawnerMenuType::Hidden)
@@ -121,7 +118,7 @@ namespace StandInTabs
 {
 	void Forget()
 	{
-		State().Spawners.clear();
+		StandIn::FTabManagerAccess::ForgetSpawners();
 		State().DefaultSizes.clear();
 		State().OpenTabs.clear();
 	}
@@ -156,7 +153,7 @@ TSharedPtr<SDockTab> FTabManager::TryInvokeTab(const FTabId& TabId)
 			return Open.Tab;
 		}
 	}
-	FTabSpawnerEntry* Spawner = StandIn::FTabManagerAccess::FindSpawner(TabId.TabType);
+	FTabSpawnerEntry* Spawner = StandIn::FTabManagerAccess::FindSpawner(*this, TabId.TabType);
 	return Spawner ? StandIn::FTabManagerAccess::Spawn(*Spawner, TabId) : TSharedPtr<SDockTab>();
 }
 
@@ -174,7 +171,7 @@ TSharedPtr<SDockTab> FTabManager::FindExistingLiveTab(const FTabId& TabId) const
 
 bool FTabManager::HasTabSpawner(FName TabId) const
 {
-	return StandIn::FTabManagerAccess::FindSpawner(TabId) != nullptr;
+	return StandIn::FTabManagerAccess::FindSpawner(*this, TabId) != nullptr;
 }
 
 const TSharedRef<FGlobalTabmanager>& FGlobalTabmanager::Get()
@@ -187,22 +184,12 @@ FTabSpawnerEntry& FGlobalTabmanager::RegisterNomadTabSpawner(const FName TabId, 
 {
 	// The engine refuses a second spawner of one name with an ensure; the stand-in replaces it.
 	UnregisterNomadTabSpawner(TabId);
-	State().Spawners.push_back(std::make_shared<FTabSpawnerEntry>(TabId, OnSpawnTab, CanSpawnTab));
-	return *State().Spawners.back();
+	return NomadTabSpawner->Add(TabId, MakeShareable(new FTabSpawnerEntry(TabId, OnSpawnTab, CanSpawnTab))).Get();
 }
 
 void FGlobalTabmanager::UnregisterNomadTabSpawner(const FName TabId)
 {
-	std::vector<std::shared_ptr<FTabSpawnerEntry>>& Spawners = State().Spawners;
-	FTabSpawnerEntry* Spawner = StandIn::FTabManagerAccess::FindSpawner(TabId);
-	for (auto It = Spawners.begin(); It != Spawners.end(); ++It)
-	{
-		if (It->get() == Spawner)
-		{
-			Spawners.erase(It);
-			return;
-		}
-	}
+	NomadTabSpawner->Remove(TabId);
 }
 
 void SDockTab::Construct(const FArguments& InArgs)

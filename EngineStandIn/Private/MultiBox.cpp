@@ -86,24 +86,30 @@ FMultiBox::~FMultiBox() {}
 
 void SMultiBoxWidget::Construct(const FArguments& InArgs) {}
 
-FMultiBoxBuilder::FMultiBoxBuilder(const EMultiBoxType InType, const bool bInShouldCloseWindowAfterMenuSelection, const TSharedPtr<const FUICommandList>& InCommandList, TSharedPtr<FExtender> InExtender, FName InTutorialHighlightName, FName InMenuName)
+// The stand-in's multi-boxes are never customised, so the customisation is not kept.
+FMultiBoxBuilder::FMultiBoxBuilder(const EMultiBoxType InType, FMultiBoxCustomization InCustomization, const bool bInShouldCloseWindowAfterMenuSelection, const TSharedPtr<const FUICommandList>& InCommandList, TSharedPtr<FExtender> InExtender, FName InTutorialHighlightName, FName InMenuName)
 	: MultiBox(MakeShareable(new FMultiBox(InType, bInShouldCloseWindowAfterMenuSelection)))
 {
-	CommandListStack.push_back(InCommandList);
-	ExtenderStack.push_back(InExtender);
+	CommandListStack.Add(InCommandList);
+	ExtenderStack.Add(InExtender);
 }
 
 void FMultiBoxBuilder::PushCommandList(const TSharedRef<const FUICommandList> CommandList)
 {
-	CommandListStack.push_back(CommandList);
+	CommandListStack.Add(CommandList);
 }
 
 void FMultiBoxBuilder::PopCommandList()
 {
-	if (ensure(CommandListStack.size() > 1))
+	if (ensure(CommandListStack.Num() > 1))
 	{
-		CommandListStack.pop_back();
+		CommandListStack.RemoveAt(CommandListStack.Num() - 1);
 	}
+}
+
+TSharedPtr<const FUICommandList> FMultiBoxBuilder::GetTopCommandList()
+{
+	return CommandListStack[CommandListStack.Num() - 1];
 }
 
 TSharedRef<SWidget> FMultiBoxBuilder::MakeWidget(FMultiBox::FOnMakeMultiBoxBuilderOverride* InMakeMultiBoxBuilderOverride, uint32 MaxHeight)
@@ -118,7 +124,7 @@ TSharedRef<SWidget> FMultiBoxBuilder::MakeWidget(FMultiBox::FOnMakeMultiBoxBuild
 }
 
 FBaseMenuBuilder::FBaseMenuBuilder(const EMultiBoxType InType, const bool bInShouldCloseWindowAfterMenuSelection, TSharedPtr<const FUICommandList> InCommandList, bool bInCloseSelfOnly, TSharedPtr<FExtender> InExtender, const ISlateStyle* InStyleSet, FName InTutorialHighlightName, FName InMenuName)
-	: FMultiBoxBuilder(InType, bInShouldCloseWindowAfterMenuSelection, InCommandList, InExtender, InTutorialHighlightName, InMenuName), bCloseSelfOnly(bInCloseSelfOnly)
+	: FMultiBoxBuilder(InType, FMultiBoxCustomization::None, bInShouldCloseWindowAfterMenuSelection, InCommandList, InExtender, InTutorialHighlightName, InMenuName), bCloseSelfOnly(bInCloseSelfOnly)
 {
 }
 
@@ -130,7 +136,7 @@ void FBaseMenuBuilder::AddMenuEntry(const TSharedPtr<const FUICommandInfo> InCom
 	auto Block = std::make_shared<StandIn::FMultiBlock>();
 	Block->Kind = StandIn::FMultiBlock::EKind::Entry;
 	Block->Command = InCommand;
-	Block->CommandList = CommandListStack.back();
+	Block->CommandList = GetTopCommandList();
 	Block->LabelOverride = InLabelOverride;
 	Block->ToolTipOverride = InToolTipOverride;
 	if (InIconOverride.IsSet())
@@ -181,7 +187,7 @@ void FMenuBuilder::AddSubMenu(const TAttribute<FText>& InMenuLabel, const TAttri
 	ApplyHook(InExtensionHook, EExtensionHook::Before);
 	auto Block = std::make_shared<StandIn::FMultiBlock>();
 	Block->Kind = StandIn::FMultiBlock::EKind::SubMenu;
-	Block->CommandList = CommandListStack.back();
+	Block->CommandList = GetTopCommandList();
 	Block->LabelOverride = InMenuLabel;
 	Block->ToolTipOverride = InToolTip;
 	if (InIcon.IsSet())
@@ -197,7 +203,7 @@ void FMenuBuilder::AddSubMenu(const TAttribute<FText>& InMenuLabel, const TAttri
 
 void FMenuBuilder::ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition)
 {
-	const TSharedPtr<FExtender>& Extender = ExtenderStack.back();
+	const TSharedPtr<FExtender>& Extender = ExtenderStack[ExtenderStack.Num() - 1];
 	if (InExtensionHook != NAME_None && Extender.IsValid())
 	{
 		Extender->Apply(InExtensionHook, HookPosition, *this);
@@ -231,7 +237,7 @@ void FMenuBuilder::ApplySectionBeginning()
 const FMultiBoxCustomization FMultiBoxCustomization::None(NAME_None);
 
 FToolBarBuilder::FToolBarBuilder(TSharedPtr<const FUICommandList> InCommandList, FMultiBoxCustomization InCustomization, TSharedPtr<FExtender> InExtender, const bool InForceSmallIcons)
-	: FMultiBoxBuilder(EMultiBoxType::ToolBar, false, InCommandList, InExtender), bSectionNeedsToBeApplied(false)
+	: FMultiBoxBuilder(EMultiBoxType::ToolBar, InCustomization, false, InCommandList, InExtender), bSectionNeedsToBeApplied(false)
 {
 }
 
@@ -243,7 +249,7 @@ void FToolBarBuilder::AddToolBarButton(const TSharedPtr<const FUICommandInfo> In
 	auto Block = std::make_shared<StandIn::FMultiBlock>();
 	Block->Kind = StandIn::FMultiBlock::EKind::ToolBarButton;
 	Block->Command = InCommand;
-	Block->CommandList = CommandListStack.back();
+	Block->CommandList = GetTopCommandList();
 	Block->LabelOverride = InLabelOverride;
 	Block->ToolTipOverride = InToolTipOverride;
 	Block->IconOverride = InIconOverride;
@@ -256,7 +262,7 @@ void FToolBarBuilder::AddComboButton(const FUIAction& InAction, const FOnGetCont
 	ApplySectionBeginning();
 	auto Block = std::make_shared<StandIn::FMultiBlock>();
 	Block->Kind = StandIn::FMultiBlock::EKind::ComboButton;
-	Block->CommandList = CommandListStack.back();
+	Block->CommandList = GetTopCommandList();
 	Block->Action = InAction;
 	Block->MenuContentGenerator = InMenuContentGenerator;
 	Block->LabelOverride = InLabelOverride;
@@ -284,7 +290,7 @@ void FToolBarBuilder::EndSection()
 
 void FToolBarBuilder::ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition)
 {
-	const TSharedPtr<FExtender>& Extender = ExtenderStack.back();
+	const TSharedPtr<FExtender>& Extender = ExtenderStack[ExtenderStack.Num() - 1];
 	if (InExtensionHook != NAME_None && Extender.IsValid())
 	{
 		Extender->Apply(InExtensionHook, HookPosition, *this);

@@ -3,6 +3,7 @@
 #include "Widgets/Input/SComboButton.h"
 #include "Widgets/Input/SEditableText.h"
 #include "Widgets/Input/SEditableTextBox.h"
+#include "Widgets/Input/SMenuAnchor.h"
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/Layout/SGridPanel.h"
@@ -59,9 +60,21 @@ void SCheckBox::ToggleCheckedState()
 	OnCheckStateChanged.ExecuteIfBound(NewState);
 }
 
+SMenuAnchor::SMenuAnchor()
+	: Children(this)
+{
+	// The anchor's content: for a combo button, the button that opens the menu.
+	Children.Add(new FSimpleSlot(this));
+}
+
+FChildren* SMenuAnchor::GetChildren()
+{
+	return &Children;
+}
+
 void SComboButton::Construct(const FArguments& InArgs)
 {
-	ChildSlot[InArgs._ButtonContent.Widget];
+	Children[0][InArgs._ButtonContent.Widget];
 	MenuContent = InArgs._MenuContent.Widget;
 }
 
@@ -83,6 +96,16 @@ void SEditableTextBox::Construct(const FArguments& InArgs)
 void SEditableTextBox::SetError(const FText& InError)
 {
 	ErrorText = InError;
+}
+
+SBox::SBox()
+	: ChildSlot(this)
+{
+}
+
+FChildren* SBox::GetChildren()
+{
+	return &ChildSlot;
 }
 
 void SBox::Construct(const FArguments& InArgs)

@@ -38,9 +38,11 @@ FSlateStyleSet::FSlateStyleSet(const FName& InStyleSetName)
 
 FSlateStyleSet::~FSlateStyleSet()
 {
-	for (const std::pair<FName, FSlateBrush*>& Entry : BrushResources)
+	TArray<FSlateBrush*> Brushes;
+	BrushResources.GenerateValueArray(Brushes);
+	for (FSlateBrush* Brush : Brushes)
 	{
-		delete Entry.second;
+		delete Brush;
 	}
 }
 
@@ -61,9 +63,11 @@ FString FSlateStyleSet::RootToContentDir(const TCHAR* RelativePath, const TCHAR*
 
 void FSlateStyleSet::GetResources(TArray<const FSlateBrush*>& OutResources) const
 {
-	for (const std::pair<FName, FSlateBrush*>& Entry : BrushResources)
+	TArray<FSlateBrush*> Brushes;
+	BrushResources.GenerateValueArray(Brushes);
+	for (const FSlateBrush* Brush : Brushes)
 	{
-		OutResources.Add(Entry.second);
+		OutResources.Add(Brush);
 	}
 }
 
@@ -75,28 +79,14 @@ const FSlateBrush* FSlateStyleSet::GetBrush(const FName PropertyName, const ANSI
 const FSlateBrush* FSlateStyleSet::GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier, const FSlateBrush* const InDefaultBrush) const
 {
 	const FName StyleName = Join(PropertyName, Specifier);
-	for (const std::pair<FName, FSlateBrush*>& Entry : BrushResources)
-	{
-		if (Entry.first == StyleName)
-		{
-			return Entry.second;
-		}
-	}
-	return InDefaultBrush;
+	FSlateBrush* const* Brush = BrushResources.Find(StyleName);
+	return Brush ? *Brush : InDefaultBrush;
 }
 
 void FSlateStyleSet::Set(const FName PropertyName, FSlateBrush* InBrush)
 {
-	for (std::pair<FName, FSlateBrush*>& Entry : BrushResources)
-	{
-		if (Entry.first == PropertyName)
-		{
-			// As the engine's map does, the replaced brush is dropped, not deleted.
-			Entry.second = InBrush;
-			return;
-		}
-	}
-	BrushResources.emplace_back(PropertyName, InBrush);
+	// As the engine's map does, a brush replaced under its name is dropped, not deleted.
+	BrushResources.Add(PropertyName, InBrush);
 }
 
 const FSlateWidgetStyle* FSlateStyleSet::GetWidgetStyleInternal(const FName DesiredTypeName, const FName StyleName) const

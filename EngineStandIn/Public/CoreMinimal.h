@@ -10,6 +10,7 @@
 #include "Containers/UnrealString.h"
 #include "Containers/Array.h"
 #include "Containers/Map.h"
+#include "Containers/EnumAsByte.h"
 #include "Containers/StringConv.h"
 #include "UObject/UnrealNames.h"
 #include "UObject/NameTypes.h"

@@ -7,8 +7,7 @@
 struct SLATECORE_API FSlateDynamicImageBrush : public FSlateBrush, public TSharedFromThis<FSlateDynamicImageBrush>
 {
 	FSlateDynamicImageBrush(const FName InTextureName, const FVector2D& InImageSize, const FLinearColor& InTint = FLinearColor(1.0f, 1.0f, 1.0f, 1.0f), ESlateBrushTileType::Type InTiling = ESlateBrushTileType::NoTile, ESlateBrushImageType::Type InImageType = ESlateBrushImageType::FullColor)
-		: FSlateBrush(ESlateBrushDrawType::Image, InTextureName, InTiling, InImageType, InImageSize, InTint)
+		: FSlateBrush(ESlateBrushDrawType::Image, InTextureName, FMargin(0.0f), InTiling, InImageType, InImageSize, InTint, nullptr, true)
 	{
-		bIsDynamicallyLoaded = true;
 	}
 };

@@ -47,6 +47,21 @@ public:
 		return (int32)(OldSize - Pairs.size());
 	}
 	int32 Num() const { return (int32)Pairs.size(); }
+	void Empty(int32 ExpectedNumElements = 0)
+	{
+		Pairs.clear();
+		Pairs.reserve((size_t)ExpectedNumElements);
+	}
+
+	// Replaces the array's contents with the values, in the order their keys were first added.
+	void GenerateValueArray(TArray<ValueType>& OutArray) const
+	{
+		OutArray.Empty(Num());
+		for (const std::pair<KeyType, ValueType>& Pair : Pairs)
+		{
+			OutArray.Add(Pair.second);
+		}
+	}
 
 private:
 	std::vector<std::pair<KeyType, ValueType>> Pairs;

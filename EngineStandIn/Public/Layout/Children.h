@@ -50,7 +50,7 @@ template <typename SlotType>
 class TSupportsContentPaddingMixin
 {
 public:
-	SlotType& Padding(const TAttribute<FMargin>& InPadding)
+	SlotType& Padding(const TAttribute<FMargin> InPadding)
 	{
 		SlotPadding = InPadding;
 		return *(static_cast<SlotType*>(this));

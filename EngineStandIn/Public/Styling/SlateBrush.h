@@ -1,7 +1,10 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Layout/Margin.h"
 #include "Styling/SlateColor.h"
+
+class UObject;
 
 namespace ESlateBrushDrawType
 {
@@ -40,6 +43,7 @@ struct SLATECORE_API FSlateBrush
 {
 public:
 	FVector2D ImageSize;
+	FMargin Margin;
 	FSlateColor TintColor;
 
 	virtual ~FSlateBrush() {}
@@ -57,13 +61,14 @@ protected:
 	uint8 bIsDynamicallyLoaded : 1;
 
 public:
-	ESlateBrushDrawType::Type DrawAs;
-	ESlateBrushTileType::Type Tiling;
-	ESlateBrushImageType::Type ImageType;
+	TEnumAsByte<enum ESlateBrushDrawType::Type> DrawAs;
+	TEnumAsByte<enum ESlateBrushTileType::Type> Tiling;
+	TEnumAsByte<enum ESlateBrushImageType::Type> ImageType;
 
 protected:
-	FSlateBrush(ESlateBrushDrawType::Type InDrawType, const FName InResourceName, ESlateBrushTileType::Type InTiling, ESlateBrushImageType::Type InImageType, const FVector2D& InImageSize, const FLinearColor& InTint = FLinearColor::White)
-		: ImageSize(InImageSize), TintColor(InTint), ResourceName(InResourceName), bIsDynamicallyLoaded(false), DrawAs(InDrawType), Tiling(InTiling), ImageType(InImageType)
+	// The stand-in's brushes are drawn from files only: an object resource (a texture asset) is not kept.
+	FSlateBrush(ESlateBrushDrawType::Type InDrawType, const FName InResourceName, const FMargin& InMargin, ESlateBrushTileType::Type InTiling, ESlateBrushImageType::Type InImageType, const FVector2D& InImageSize, const FLinearColor& InTint = FLinearColor::White, UObject* InObjectResource = nullptr, bool bInDynamicallyLoaded = false)
+		: ImageSize(InImageSize), Margin(InMargin), TintColor(InTint), ResourceName(InResourceName), bIsDynamicallyLoaded(bInDynamicallyLoaded), DrawAs(InDrawType), Tiling(InTiling), ImageType(InImageType)
 	{
 	}
 };

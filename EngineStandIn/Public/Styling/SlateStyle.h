@@ -2,8 +2,6 @@
 
 #include "CoreMinimal.h"
 #include "Styling/ISlateStyle.h"
-#include <utility>
-#include <vector>
 
 struct FSlateBrush;
 
@@ -34,5 +32,5 @@ protected:
 	FName StyleSetName;
 	FString ContentRootDir;
 	FSlateBrush* DefaultBrush;
-	std::vector<std::pair<FName, FSlateBrush*>> BrushResources;
+	TMap<FName, FSlateBrush*> BrushResources;
 };

@@ -23,3 +23,9 @@ namespace ETextCommit
 		OnCleared
 	};
 }
+
+enum EOrientation
+{
+	Orient_Horizontal,
+	Orient_Vertical,
+};

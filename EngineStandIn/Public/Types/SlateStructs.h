@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Attribute.h"
 
 // How a box slot takes its share of the box: as much as its content wants, or a share of what is left.
 struct FSizeParam

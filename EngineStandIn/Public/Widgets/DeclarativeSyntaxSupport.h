@@ -4,7 +4,6 @@
 #include "Misc/Attribute.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/SWidget.h"
-#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -173,29 +172,28 @@ namespace RequiredArgs
 		return T0RequiredArgs();
 	}
 
-	// Widgets whose Construct takes values before their named arguments: SNew(SWidget, Arg1, Arg2).
-	template <typename... ArgTypes>
-	struct TRequiredArgs
+	// Widgets whose Construct takes two values before their named arguments: SNew(SWidget, Arg0, Arg1). The
+	// values are held by reference, which lasts as long as the SNew expression that made them.
+	template <typename Arg0Type, typename Arg1Type>
+	struct T2RequiredArgs
 	{
-		explicit TRequiredArgs(ArgTypes&&... InArgs)
-			: Args(std::forward<ArgTypes>(InArgs)...) {}
+		T2RequiredArgs(Arg0Type&& InArg0, Arg1Type&& InArg1)
+			: Arg0(InArg0), Arg1(InArg1) {}
 
 		template <class WidgetType>
 		void CallConstruct(const TSharedRef<WidgetType>& OnWidget, const typename WidgetType::FArguments& WithNamedArgs) const
 		{
-			std::apply([&](const auto&... Values) {
-				OnWidget->Construct(WithNamedArgs, Values...);
-			},
-					   Args);
+			OnWidget->Construct(WithNamedArgs, std::forward<Arg0Type>(Arg0), std::forward<Arg1Type>(Arg1));
 		}
 
-		std::tuple<std::decay_t<ArgTypes>...> Args;
+		Arg0Type& Arg0;
+		Arg1Type& Arg1;
 	};
 
-	template <typename Arg0Type, typename... ArgTypes>
-	TRequiredArgs<Arg0Type, ArgTypes...> MakeRequiredArgs(Arg0Type&& InArg0, ArgTypes&&... InArgs)
+	template <typename Arg0Type, typename Arg1Type>
+	T2RequiredArgs<Arg0Type&&, Arg1Type&&> MakeRequiredArgs(Arg0Type&& InArg0, Arg1Type&& InArg1)
 	{
-		return TRequiredArgs<Arg0Type, ArgTypes...>(std::forward<Arg0Type>(InArg0), std::forward<ArgTypes>(InArgs)...);
+		return T2RequiredArgs<Arg0Type&&, Arg1Type&&>(std::forward<Arg0Type>(InArg0), std::forward<Arg1Type>(InArg1));
 	}
 } // namespace RequiredArgs
 

@@ -4,6 +4,7 @@
 #include "Layout/Children.h"
 #include "Layout/Margin.h"
 #include "SlotBase.h"
+#include "Types/SlateEnums.h"
 #include "Types/SlateStructs.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SPanel.h"
@@ -30,10 +31,11 @@ public:
 	virtual FChildren* GetChildren() override { return &Children; }
 
 protected:
-	SBoxPanel()
-		: Children(this) {}
+	SBoxPanel(EOrientation InOrientation)
+		: Children(this), Orientation(InOrientation) {}
 
 	TPanelChildren<FSlot> Children;
+	const EOrientation Orientation;
 };
 
 class SLATECORE_API SHorizontalBox : public SBoxPanel
@@ -62,6 +64,9 @@ public:
 	};
 
 	static FSlot& Slot() { return *(new FSlot()); }
+
+	SHorizontalBox()
+		: SBoxPanel(Orient_Horizontal) {}
 
 	// clang-format off
 	SLATE_BEGIN_ARGS(SHorizontalBox) {}
@@ -113,6 +118,9 @@ public:
 	}
 
 	int32 NumSlots() const { return Children.Num(); }
+
+	SVerticalBox()
+		: SBoxPanel(Orient_Vertical) {}
 
 	void Construct(const FArguments& InArgs);
 };

@@ -108,7 +108,17 @@ public:
 	bool HasTabSpawner(FName TabId) const;
 
 protected:
-	FTabManager() {}
+	friend class StandIn::FTabManagerAccess;
+
+	typedef TMap<FName, TSharedRef<FTabSpawnerEntry>> FTabSpawner;
+
+	// Only the global tab manager is made in the stand-in, and it belongs to no tab: the owner is not kept.
+	FTabManager(const TSharedPtr<SDockTab>& InOwnerTab, const TSharedRef<FTabManager::FTabSpawner>& InNomadTabSpawner)
+		: NomadTabSpawner(InNomadTabSpawner)
+	{
+	}
+
+	TSharedRef<FTabSpawner> NomadTabSpawner;
 };
 
 class SLATE_API FGlobalTabmanager : public FTabManager
@@ -122,5 +132,8 @@ public:
 private:
 	friend class StandIn::FTabManagerAccess;
 
-	FGlobalTabmanager() {}
+	FGlobalTabmanager()
+		: FTabManager(TSharedPtr<SDockTab>(), MakeShareable(new FTabSpawner()))
+	{
+	}
 };

@@ -12,7 +12,6 @@
 #include "Textures/SlateIcon.h"
 #include "Widgets/SWidget.h"
 #include <climits>
-#include <vector>
 
 class ISlateStyle;
 
@@ -23,7 +22,7 @@ DECLARE_DELEGATE_OneParam(FNewMenuDelegate, class FMenuBuilder&);
 class SLATE_API FMultiBoxBuilder
 {
 public:
-	FMultiBoxBuilder(const EMultiBoxType InType, const bool bInShouldCloseWindowAfterMenuSelection, const TSharedPtr<const FUICommandList>& InCommandList, TSharedPtr<FExtender> InExtender = TSharedPtr<FExtender>(), FName InTutorialHighlightName = NAME_None, FName InMenuName = NAME_None);
+	FMultiBoxBuilder(const EMultiBoxType InType, FMultiBoxCustomization InCustomization, const bool bInShouldCloseWindowAfterMenuSelection, const TSharedPtr<const FUICommandList>& InCommandList, TSharedPtr<FExtender> InExtender = TSharedPtr<FExtender>(), FName InTutorialHighlightName = NAME_None, FName InMenuName = NAME_None);
 	virtual ~FMultiBoxBuilder() {}
 
 	virtual TSharedRef<class SWidget> MakeWidget(FMultiBox::FOnMakeMultiBoxBuilderOverride* InMakeMultiBoxBuilderOverride = nullptr, uint32 MaxHeight = INT_MAX);
@@ -32,14 +31,15 @@ public:
 	void PushCommandList(const TSharedRef<const FUICommandList> CommandList);
 	// The list the builder was made with always stays.
 	void PopCommandList();
+	TSharedPtr<const FUICommandList> GetTopCommandList();
 
 protected:
 	virtual void ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition) = 0;
 	virtual void ApplySectionBeginning() {}
 
 	TSharedRef<class FMultiBox> MultiBox;
-	std::vector<TSharedPtr<const FUICommandList>> CommandListStack;
-	std::vector<TSharedPtr<FExtender>> ExtenderStack;
+	TArray<TSharedPtr<const FUICommandList>> CommandListStack;
+	TArray<TSharedPtr<FExtender>> ExtenderStack;
 };
 
 class SLATE_API FBaseMenuBuilder : public FMultiBoxBuilder

@@ -2,16 +2,15 @@
 
 #include "CoreMinimal.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
-#include "Widgets/SCompoundWidget.h"
+#include "Widgets/Input/SMenuAnchor.h"
 
 namespace StandIn
 {
 	class FComboButtonInspector;
 }
 
-// A button whose click opens a menu. The stand-in shows no popups: the menu content is kept, and opened
-// and used from the control surface, as a user's clicks would.
-class SLATE_API SComboButton : public SCompoundWidget
+// A button whose click opens a menu.
+class SLATE_API SComboButton : public SMenuAnchor
 {
 public:
 	// clang-format off
@@ -25,6 +24,4 @@ public:
 
 private:
 	friend class StandIn::FComboButtonInspector;
-
-	TSharedPtr<SWidget> MenuContent;
 };

@@ -4,7 +4,7 @@
 #include "Layout/Margin.h"
 #include "Types/SlateStructs.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
-#include "Widgets/SCompoundWidget.h"
+#include "Widgets/SPanel.h"
 
 namespace StandIn
 {
@@ -12,9 +12,16 @@ namespace StandIn
 }
 
 // Holds one widget at a size of its choosing.
-class SLATE_API SBox : public SCompoundWidget
+class SLATE_API SBox : public SPanel
 {
 public:
+	class FBoxSlot : public TSupportsOneChildMixin<FBoxSlot>, public TSupportsContentPaddingMixin<FBoxSlot>
+	{
+	public:
+		FBoxSlot(SWidget* InOwner)
+			: TSupportsOneChildMixin<FBoxSlot>(InOwner) {}
+	};
+
 	// clang-format off
 	SLATE_BEGIN_ARGS(SBox)
 		: _Content(), _Padding(FMargin(0.0f)), _WidthOverride(FOptionalSize()), _HeightOverride(FOptionalSize()) {}
@@ -25,7 +32,14 @@ public:
 	SLATE_END_ARGS()
 	// clang-format on
 
+	SBox();
+
 	void Construct(const FArguments& InArgs);
+
+	virtual FChildren* GetChildren() override;
+
+protected:
+	FBoxSlot ChildSlot;
 
 private:
 	friend class StandIn::FBoxInspector;
