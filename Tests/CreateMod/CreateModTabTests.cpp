@@ -64,18 +64,6 @@ TEST_F(FCreateModTabTest, TheTabIsGoneOnceTheCreatorIs)
 	EXPECT_TRUE(StandIn::Journal().empty());
 }
 
-TEST_F(FCreateModTabTest, WithoutThePluginBrowserTheCommandSaysWhyAndOpensNothing)
-{
-	StandIn::FWorld World = DefaultWorld();
-	World.bPluginBrowserLoaded = false;
-	ResetWorld(World);
-	FUGCCreator Creator;
-	Creator.OpenCreateModTab(false);
-
-	EXPECT_EQ(StandIn::JournalLines(), std::vector<std::string>({"Message: Creating a game mod requires the use of the Plugin Browser, but it is currently disabled."}));
-	EXPECT_TRUE(TabRecords().empty());
-}
-
 TEST_F(FCreateModTabTest, WithoutThePluginBrowserASilentCommandDoesNothing)
 {
 	StandIn::FWorld World = DefaultWorld();

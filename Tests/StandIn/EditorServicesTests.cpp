@@ -43,18 +43,14 @@ namespace
 	}
 }
 
-TEST_F(FSandboxTest, CheckedLoadOfAnUnknownModuleStopsTheProgram)
-{
-	EXPECT_DEATH(FModuleManager::LoadModuleChecked<IModuleInterface>(TEXT("NoSuchModule")), "Assertion failed");
-}
-
-TEST_F(FSandboxTest, ModuleIsLoadedOnceAndStaysLoaded)
+TEST_F(FSandboxTest, ModuleIsLoadedOnceAndStaysLoadedWhileAnUnknownOneIsNullOrStopsACheckedLoad)
 {
 	IDesktopPlatform* First = FDesktopPlatformModule::Get();
 	ASSERT_NE(First, nullptr);
 	EXPECT_TRUE(FModuleManager::Get().IsModuleLoaded(TEXT("DesktopPlatform")));
 	EXPECT_EQ(FDesktopPlatformModule::Get(), First);
 	EXPECT_EQ(FModuleManager::Get().LoadModule(TEXT("NoSuchModule")), nullptr);
+	EXPECT_DEATH(FModuleManager::LoadModuleChecked<IModuleInterface>(TEXT("NoSuchModule")), "Assertion failed");
 }
 
 TEST_F(FSandboxTest, StartUpLoadsTheProjectsDefaultPhaseModulesInItsOrderThenThePluginsModules)

@@ -53,7 +53,7 @@ TEST_F(FPluginManagerTest, EnginePluginsAreTheEnginesAndProjectPluginsAndModsThe
 TEST_F(FPluginManagerTest, AProjectBesideTheEngineFolderIsReachedOneLevelHigherAndOneOnAnotherDriveInFull)
 {
 	std::vector<std::string> BaseDirs;
-	for (const std::string& ProjectFolder : {"C:/Moravane", "D:/Proj"})
+	for (const std::string ProjectFolder : {"C:/Moravane", "D:/Proj"})
 	{
 		StandIn::FWorld World = DefaultWorld();
 		World.ProjectFilePath = StandIn::FromUtf8(ProjectFolder + "/Moravane.uproject");
