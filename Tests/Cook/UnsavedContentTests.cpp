@@ -38,17 +38,6 @@ protected:
 	}
 };
 
-TEST_F(FUnsavedContentTest, NothingUnsavedStartsTheTaskWithoutAPrompt)
-{
-	StartEditor({});
-
-	Cook(TEXT("MyRoute"));
-
-	EXPECT_TRUE(SavePrompts().empty());
-	EXPECT_EQ(UatTasks().size(), 1u);
-	EXPECT_TRUE(MessageBoxTexts().empty());
-}
-
 TEST_F(FUnsavedContentTest, UnsavedContentOfThePluginPromptsForEveryDirtyPackageThenCooksOnceSaved)
 {
 	StartEditor({{TEXT("/Game/Maps/Hub"), true}, {TEXT("/MyRoute/Data/Track"), false}});
