@@ -40,10 +40,11 @@ TEST_F(FSessionTranscriptTest, CreateFromTwoTemplatesOpensTheTabAndAnnouncesTheM
 	EXPECT_NE(ReadAll(Drive("Work/Moravane/Plugins/Northline/Northline.uplugin")).find("\"Category\": \"DLC\""), std::string::npos);
 }
 
-// The prompt lists the unsaved map before the plugin's content, and nothing of the cook starts.
+// The prompt lists the unsaved map before the plugin's content, and nothing of the cook starts. Without
+// --save the prompt is declined.
 TEST_F(FSessionTranscriptTest, CookDeclinedAtTheSavePromptListsTheDropDownPromptsAndRefuses)
 {
-	EXPECT_EQ(Session({"cook", "CalverlyBranchLine", "--dirty", "/CalverlyBranchLine/Maps/Main", "--dirty-map", "/Game/Maps/Hub", "--save", "none"}), Expected("cook-declined.txt"));
+	EXPECT_EQ(Session({"cook", "CalverlyBranchLine", "--dirty", "/CalverlyBranchLine/Maps/Main", "--dirty-map", "/Game/Maps/Hub"}), Expected("cook-declined.txt"));
 }
 
 TEST_F(FSessionTranscriptTest, CookSavedAtTheSavePromptListsTheDropDownPromptsAndStartsTheTask)
