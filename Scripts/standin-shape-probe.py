@@ -3,9 +3,10 @@
 could: each class, its bases, public and protected members with their exact types (static or not, virtual or
 not), free functions, enumerators, type aliases, variables and macros.
 
-The probe is one file a header, which includes only that header before its checks. Compiled against the real
-engine headers, every error of a probe is a stand-in declaration that UE 4.26 lacks, declares in another shape,
-or declares in another header. Usage: standin-shape-probe.py <stand-in Public folder> <clang JSON AST> <probe folder>
+The names are probed in one file a header, which includes only that header; the members in one file that
+includes every header. Compiled against the real engine headers, every error of a probe is a stand-in
+declaration that UE 4.26 lacks, declares in another shape, or declares in another header.
+Usage: standin-shape-probe.py <stand-in Public folder> <clang JSON AST> <probe folder>
 The AST is clang's -ast-dump=json of one file that includes every public header of the stand-in."""
 import json
 import os
@@ -299,8 +300,8 @@ class Walker:
 		body = [self.probe_body_line(origin, code.replace("&Self::", "&%s::" % probe).replace("&%s::operator=" % probe, "&Self::operator=").replace("decltype(Self::", "decltype(%s::" % probe)) for origin, code in members]
 		self.probe.count += len(members)
 		aliases = "".join("\tusing %s = typename Self::%s;\n" % (n, n) for n in nested_types)
-		self.probe.append(header, "%sstruct %s : %s\n{\n\tusing Self = %s;\n%s\tstatic void Uses()\n\t{\n%s\n\t}\n};%s"
-		                        % ("template <%s>\n" % template[0] if template else "", probe, qualified, qualified, aliases,
+		self.probe.append(header, "// %s\n%sstruct %s : %s\n{\n\tusing Self = %s;\n%s\tstatic void Uses()\n\t{\n%s\n\t}\n};%s"
+		                        % (self.origin(qualified), "template <%s>\n" % template[0] if template else "", probe, qualified, qualified, aliases,
 		                           "\n".join(body), "\ntemplate struct %s<%s>;" % (probe, template[2]) if template else ""), True)
 
 	def probe_body_line(self, origin, code):
@@ -382,19 +383,20 @@ def main():
 	for folder, _, files in sorted(os.walk(PUBLIC_DIR)):
 		headers += sorted(os.path.relpath(os.path.join(folder, f), PUBLIC_DIR) for f in files if f.endswith(".h"))
 	os.makedirs(PROBE_DIR, exist_ok=True)
-	for header, (checks, member_uses) in sorted(probe.sections.items()):
-		# The checks that name declarations see only their own header, as a module file that includes just
-		# that header would; a declaration 4.26 keeps in another header fails there. Members are used with
-		# complete parameter and argument types, so those checks come after everything is included.
+	# The checks that name declarations see only their own header, as a module file that includes just that
+	# header would: a declaration 4.26 keeps in another header fails there.
+	for header, (checks, _) in sorted(probe.sections.items()):
+		if not checks:
+			continue
 		with open(os.path.join(PROBE_DIR, re.sub(r"[/.]", "_", header) + ".cpp"), "w", encoding="utf-8") as out:
-			out.write("// Generated: uses the public declarations of the stand-in's %s.\n" % header)
+			out.write("// Generated: names the declarations of the stand-in's %s.\n" % header)
 			out.write('#include "%s"\n#include <type_traits>\n\n' % carrier(header, headers))
 			out.write("\n".join(checks) + "\n")
-			if member_uses:
-				out.write("\n" + "".join('#include "%s"\n' % h for h in headers))
-				if any("FProbeCommands" in text for text in member_uses):
-					out.write(PROBE_COMMANDS)
-				out.write("\n".join(member_uses) + "\n")
+	# Members are used with complete parameter and argument types, as a module has them, in one probe.
+	with open(os.path.join(PROBE_DIR, "members.cpp"), "w", encoding="utf-8") as out:
+		out.write("// Generated: uses the members of every public class of the stand-in.\n")
+		out.write("".join('#include "%s"\n' % h for h in headers) + "#include <type_traits>\n\n" + PROBE_COMMANDS)
+		out.write("\n".join(text for _, (_, member_uses) in sorted(probe.sections.items()) for text in member_uses) + "\n")
 	print("%d declarations probed in %d headers; members not probed of the class templates %s"
 	      % (probe.count, len(probe.sections), ", ".join(walker.unprobed_templates)))
 
