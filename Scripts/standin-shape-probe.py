@@ -17,15 +17,19 @@ PUBLIC_DIR = os.path.realpath(sys.argv[1])
 AST_PATH = sys.argv[2]
 PROBE_DIR = sys.argv[3]
 DETAIL_NAMESPACE = "StandIn"
+# What the type parameters of a function template stand for where the probe deduces them.
+TEMPLATE_ARGUMENT_PROBE = "FProbeTemplateArgument"
 # The command set with which the probe instantiates TCommands.
 PROBE_COMMANDS = ("struct FProbeCommands : TCommands<FProbeCommands>\n{\n\tFProbeCommands() : TCommands(TEXT(\"Probe\"), FText(), NAME_None, NAME_None) {}\n"
                   "\tvirtual void RegisterCommands() override {}\n};\n\n")
 # The arguments with which the probe instantiates each class template whose members it uses.
 TEMPLATE_ARGUMENTS = {
 	"TSharedPtr": "SWidget, ESPMode::Fast", "TSharedRef": "SWidget, ESPMode::Fast", "TWeakPtr": "SWidget, ESPMode::Fast",
-	"TSharedFromThis": "SWidget, ESPMode::Fast", "TArray": "FString", "TMap": "FString, int32", "TOptional": "FString",
-	"TAttribute": "FText", "TUniquePtr": "FString", "TCommands": "FProbeCommands", "SComboBox": "TSharedPtr<FString>",
-	"TStringView": "TCHAR", "TChar": "TCHAR", "TIsValidVariadicFunctionArg": "int32", "TIsArrayOrRefOfType": "TCHAR, TCHAR",
+	"TSharedFromThis": "SWidget, ESPMode::Fast", "TArray": "FString, FDefaultAllocator",
+	"TMap": "FString, int32, FDefaultSetAllocator, TDefaultMapHashableKeyFuncs<FString, int32, false>", "TOptional": "FString",
+	"TAttribute": "FText", "TUniquePtr": "FString, TDefaultDelete<FString>", "TDefaultDelete": "FString",
+	"TCommands": "FProbeCommands", "SComboBox": "TSharedPtr<FString>", "TStringView": "TCHAR", "TChar": "TCHAR",
+	"TIsValidVariadicFunctionArg": "int32, false", "TIsArrayOrRefOfType": "TCHAR, TCHAR",
 	"FLogCategory": "ELogVerbosity::Log, ELogVerbosity::All", "FRawPtrProxy": "SWidget", "TBaseDelegate": "void, int32",
 	"TSlateBaseNamedArgs": "SButton", "NamedSlotProperty": "SBox::FArguments", "TSlotBase": "FSimpleSlot",
 	"TSupportsContentPaddingMixin": "FSimpleSlot", "TSupportsOneChildMixin": "FSimpleSlot",
@@ -179,6 +183,10 @@ class Walker:
 			self.skip(node)
 		elif kind == "EnumDecl" and name:
 			self.enum(node, scope)
+		elif kind == "EnumDecl":
+			for enumerator in self.enumerators(node):
+				qualified = self.qualify(scope, enumerator)
+				self.probe.add(self.origin(qualified), self.enumerator_check(qualified))
 		elif kind in ("TypedefDecl", "TypeAliasDecl", "TypeAliasTemplateDecl"):
 			qualified = self.qualify(scope, name)
 			if kind == "TypeAliasTemplateDecl":
@@ -220,6 +228,21 @@ class Walker:
 				return None
 		return ", ".join(parameters)
 
+	def enumerators(self, node):
+		"""The names of an enum's enumerators, following the locations on the way."""
+		names = []
+		for child in node.get("inner", []):
+			self.track(child.get("loc"))
+			self.track(child.get("range"))
+			if child.get("kind") == "EnumConstantDecl":
+				names.append(child["name"])
+			self.skip(child)
+		return names
+
+	def enumerator_check(self, qualified):
+		"""An enumerator of an unnamed enum: a constant that is no variable, whose type is that enum."""
+		return "static_assert(std::is_enum<decltype(%s)>::value, \"\");" % qualified
+
 	def enum(self, node, scope):
 		qualified = self.qualify(scope, node["name"])
 		self.probe.add(self.origin(qualified), "using %s = %s;" % (self.name(), qualified))
@@ -235,8 +258,7 @@ class Walker:
 	def record(self, node, scope, template=None):
 		qualified = self.qualify(scope, node["name"])
 		header = header_of(self.origin(qualified))
-		definition = node.get("definitionData", {})
-		final = any(a.get("kind") == "FinalAttr" for a in node.get("inner", []))
+		derivable = not any(a.get("kind") == "FinalAttr" for a in node.get("inner", [])) and not self.has_private_virtual_destructor(node)
 		members = []
 		if template:
 			qualified += "<%s>" % template[1]
@@ -263,6 +285,8 @@ class Walker:
 					# Nested names of a class template are dependent: the probe names them through its base.
 					if kind in ("TypedefDecl", "TypeAliasDecl", "CXXRecordDecl", "EnumDecl") and child.get("name"):
 						nested_types.append(child["name"])
+					elif kind == "EnumDecl":
+						members += [(self.origin(qualified + "::" + e), self.enumerator_check("Self::" + e)) for e in self.enumerators(child)]
 					self.skip(child)
 					continue
 				if kind == "CXXRecordDecl" and not child.get("completeDefinition"):
@@ -279,7 +303,7 @@ class Walker:
 			if child.get("explicitlyDeleted") or "auto" in child.get("type", {}).get("qualType", ""):
 				self.skip(child)
 				continue
-			member = self.member(child, qualified, definition, access)
+			member = self.member(child, qualified, access, derivable)
 			if member and template:
 				# The injected class name means the instantiated class, which the probe calls Self; its nested
 				# types are the probe's aliases.
@@ -290,7 +314,7 @@ class Walker:
 		members = [m for m in members if m]
 		if not members:
 			return
-		if final and not template:
+		if not derivable and not template:
 			for origin, code in members:
 				self.probe.add(origin, "static void %s() { %s }" % (self.name(), code.replace("Self::", qualified + "::")), True)
 			return
@@ -304,11 +328,25 @@ class Walker:
 		                        % (self.origin(qualified), "template <%s>\n" % template[0] if template else "", probe, qualified, qualified, aliases,
 		                           "\n".join(body), "\ntemplate struct %s<%s>;" % (probe, template[2]) if template else ""), True)
 
+	@staticmethod
+	def has_private_virtual_destructor(node):
+		"""Whether no class can derive from the record: a derived class's destructor would override one it cannot call."""
+		access = "public" if node.get("tagUsed") in ("struct", "union") else "private"
+		for child in node.get("inner", []):
+			if child.get("kind") == "AccessSpecDecl":
+				access = child["access"]
+			elif child.get("kind") == "CXXDestructorDecl" and child.get("virtual") and access == "private":
+				return True
+		return False
+
 	def probe_body_line(self, origin, code):
 		return "\t\t// %s\n\t\t%s" % (origin, code)
 
-	def member(self, child, qualified, definition, access):
+	def member(self, child, qualified, access, derivable):
 		kind, name = child.get("kind"), child.get("name")
+		if kind == "UsingDecl":
+			# A using-declaration is named by what it brings in, which the class re-exposes as its own.
+			name = name.split("::")[-1]
 		if kind == "CXXConversionDecl":
 			# In a class template clang names the operator after the canonical parameter; the written type is its name.
 			name = "operator " + split_function_type(child["type"]["qualType"])[0]
@@ -324,7 +362,7 @@ class Walker:
 				code = "(void)static_cast<%s (*)(%s)>(&Self::%s);" % (parts[0], parts[1], name)
 			else:
 				code = "(void)static_cast<%s (Self::*)(%s) %s>(&Self::%s);" % (parts[0], parts[1], parts[2], name)
-			if child.get("virtual"):
+			if child.get("virtual") and derivable:
 				code += " struct Override%d : Self { %s %s(%s) %s override; };" % (self.serial_next(), parts[0], name, parts[1], parts[2])
 			return origin, code
 		if kind == "CXXConstructorDecl":
@@ -345,9 +383,28 @@ class Walker:
 			return origin, "static_assert(std::is_same<decltype(Self::%s), %s>::value, \"\");" % (name, child["type"]["qualType"])
 		if kind == "FunctionTemplateDecl" and any(c.get("kind") == "CXXConstructorDecl" for c in child.get("inner", [])):
 			return None
+		if kind == "FunctionTemplateDecl" and not derivable:
+			return origin, self.function_template_signature(child, name)
 		if kind in ("FunctionTemplateDecl", "UsingDecl"):
-			return origin, "struct Using%d : Self { using Self::%s; };" % (self.serial_next(), name or kind)
+			return origin, "struct Using%d : Self { using Self::%s; };" % (self.serial_next(), name)
 		return None
+
+
+	@staticmethod
+	def function_template_signature(node, name):
+		"""For a class no one can derive from: the template's signature, its type parameters deduced as a probe type.
+		The address is taken unevaluated, so the template's body is not instantiated."""
+		function = next(c for c in node["inner"] if c.get("kind") == "CXXMethodDecl")
+		qual_type = function["type"]["qualType"]
+		for parameter in node["inner"]:
+			if parameter.get("kind") == "TemplateTypeParmDecl":
+				qual_type = re.sub(r"\b%s\b" % parameter["name"], TEMPLATE_ARGUMENT_PROBE, qual_type)
+		parts = split_function_type(qual_type)
+		if function.get("storageClass") == "static":
+			target = "%s (*)(%s)" % parts[:2]
+		else:
+			target = "%s (Self::*)(%s) %s" % parts
+		return "(void)sizeof(decltype(static_cast<%s>(&Self::%s)));" % (target, name)
 
 
 def macros(probe):
@@ -395,7 +452,8 @@ def main():
 	# Members are used with complete parameter and argument types, as a module has them, in one probe.
 	with open(os.path.join(PROBE_DIR, "members.cpp"), "w", encoding="utf-8") as out:
 		out.write("// Generated: uses the members of every public class of the stand-in.\n")
-		out.write("".join('#include "%s"\n' % h for h in headers) + "#include <type_traits>\n\n" + PROBE_COMMANDS)
+		out.write("".join('#include "%s"\n' % h for h in headers) + "#include <type_traits>\n\n" + PROBE_COMMANDS
+		          + "struct %s {};\n\n" % TEMPLATE_ARGUMENT_PROBE)
 		out.write("\n".join(text for _, (_, member_uses) in sorted(probe.sections.items()) for text in member_uses) + "\n")
 	print("%d declarations probed in %d headers; members not probed of the class templates %s"
 	      % (probe.count, len(probe.sections), ", ".join(walker.unprobed_templates)))

@@ -2,6 +2,7 @@
 
 // The engine's CoreMinimal.h list, in its order, keeping the headers the stand-in has.
 #include "CoreTypes.h"
+#include "Containers/ContainersFwd.h"
 #include "Logging/LogVerbosity.h"
 #include "Misc/AssertionMacros.h"
 #include "Templates/UnrealTemplate.h"

@@ -16,6 +16,19 @@ TEST(StandInStrings, CombineJoinsPartsWithOneSlashAndCollapsesNothing)
 	EXPECT_EQ(Utf8(FPaths::Combine(FString(TEXT("C:/a")), TEXT("b/c"), FString(TEXT("d")))), "C:/a/b/c/d");
 }
 
+TEST(StandInStrings, AppendingTakesStringsPointersAndCharactersButNeverANullCharacter)
+{
+	FString Text = TEXT("a");
+	Text += FString(TEXT("b"));
+	Text += TEXT("c");
+	const TCHAR* Pointer = TEXT("d");
+	Text += Pointer;
+	Text += TEXT('e');
+	Text += TEXT('\0');
+	EXPECT_EQ(Utf8(Text), "abcde");
+	EXPECT_EQ(Text.Len(), 5);
+}
+
 TEST(StandInStrings, PrintfFormatsTextAndIntegersAsTheEngineFormatterDoes)
 {
 	const FString Name = TEXT("Route");

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Containers/ContainersFwd.h"
 #include "Misc/AssertionMacros.h"
 #include <algorithm>
 #include <initializer_list>
 #include <utility>
 #include <vector>
 
-template <typename ElementType>
+template <typename ElementType, typename InAllocatorType>
 class TArray
 {
 public:

@@ -5,8 +5,9 @@
 #include <utility>
 #include <vector>
 
-// Keys compare with their own ==, so FString keys match without regard to case, as the engine's do.
-template <typename KeyType, typename ValueType>
+// Keys compare with their own ==, as the default key functions compare them, so FString keys match without
+// regard to case, as the engine's do.
+template <typename KeyType, typename ValueType, typename SetAllocator, typename KeyFuncs>
 class TMap
 {
 public:

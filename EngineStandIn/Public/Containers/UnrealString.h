@@ -3,9 +3,12 @@
 #include "CoreTypes.h"
 #include "Misc/AssertionMacros.h"
 #include "Containers/Array.h"
+#include "Templates/IsValidVariadicFunctionArg.h"
+#include "Templates/IsArrayOrRefOfType.h"
 #include <cstdarg>
 #include <string>
 #include <type_traits>
+#include <utility>
 
 namespace ESearchCase
 {
@@ -24,40 +27,6 @@ namespace ESearchDir
 		FromEnd,
 	};
 }
-
-// Printf takes its arguments through C varargs, as the engine's formatter does; only values that survive
-// that trip are allowed (pass *String for %s).
-template <typename T>
-struct TIsValidVariadicFunctionArg
-{
-	static constexpr bool Value = std::is_arithmetic<T>::value || std::is_pointer<T>::value || std::is_enum<T>::value || std::is_null_pointer<T>::value;
-};
-
-template <typename T, typename CharType>
-struct TIsArrayOrRefOfType
-{
-	static constexpr bool Value = false;
-};
-template <typename CharType, size_t N>
-struct TIsArrayOrRefOfType<CharType[N], CharType>
-{
-	static constexpr bool Value = true;
-};
-template <typename CharType, size_t N>
-struct TIsArrayOrRefOfType<const CharType[N], CharType>
-{
-	static constexpr bool Value = true;
-};
-template <typename CharType, size_t N>
-struct TIsArrayOrRefOfType<const CharType (&)[N], CharType>
-{
-	static constexpr bool Value = true;
-};
-template <typename CharType, size_t N>
-struct TIsArrayOrRefOfType<CharType (&)[N], CharType>
-{
-	static constexpr bool Value = true;
-};
 
 class FString
 {
@@ -93,24 +62,30 @@ public:
 		return Data[(size_t)Index];
 	}
 
-	FString& operator+=(const FString& Other)
-	{
-		Data += Other.Data;
-		return *this;
-	}
-	FString& operator+=(const TCHAR* Other)
-	{
-		Data += Other;
-		return *this;
-	}
-	FString& operator+=(TCHAR Char)
-	{
-		Data += Char;
-		return *this;
-	}
 	FString& Append(const FString& Other)
 	{
 		Data += Other.Data;
+		return *this;
+	}
+	// A null-terminated string: TCHAR text only, the stand-in converts no other encoding.
+	template <class CharType>
+	FString& Append(CharType* Str)
+	{
+		Data += Str;
+		return *this;
+	}
+	template <typename StrType>
+	FString& operator+=(StrType&& Str)
+	{
+		return Append(std::forward<StrType>(Str));
+	}
+	// A null character is not appended: the engine's string never holds one.
+	FString& operator+=(TCHAR Char)
+	{
+		if (Char != 0)
+		{
+			Data += Char;
+		}
 		return *this;
 	}
 	friend FString operator+(const FString& Lhs, const FString& Rhs) { return FString(Lhs.Data + Rhs.Data); }

@@ -27,8 +27,3 @@ typedef wchar_t TCHAR;
 #define UE_NODISCARD [[nodiscard]]
 // What a module exports from its binary; the engine's Linux build marks such symbols visible.
 #define DLLEXPORT __attribute__((visibility("default")))
-
-enum
-{
-	INDEX_NONE = -1
-};

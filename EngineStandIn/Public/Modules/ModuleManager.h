@@ -43,7 +43,9 @@ private:
 	friend class StandInModules::FModuleManagerAccess;
 
 	FModuleManager();
-	~FModuleManager();
+	// Virtual, as the engine's manager inherits it from its console-command base, and private: no class can
+	// derive from the manager.
+	virtual ~FModuleManager();
 
 	struct FLoadedModule
 	{

@@ -5,8 +5,14 @@
 #include <memory>
 #include <utility>
 
-// Sole ownership of one object, deleted with it; moved, never copied.
 template <typename T>
+struct TDefaultDelete
+{
+	void operator()(T* Ptr) const { delete Ptr; }
+};
+
+// Sole ownership of one object, handed to the deleter with it; moved, never copied.
+template <typename T, typename Deleter = TDefaultDelete<T>>
 class TUniquePtr
 {
 public:
@@ -42,7 +48,7 @@ public:
 	void Reset(T* InPtr = nullptr) { Ptr.reset(InPtr); }
 
 private:
-	std::unique_ptr<T> Ptr;
+	std::unique_ptr<T, Deleter> Ptr;
 };
 
 template <typename T, typename... ArgTypes>
