@@ -246,14 +246,10 @@ class Walker:
 	def enum(self, node, scope):
 		qualified = self.qualify(scope, node["name"])
 		self.probe.add(self.origin(qualified), "using %s = %s;" % (self.name(), qualified))
-		scoped = node.get("scopedEnumTag") is not None
-		for child in node.get("inner", []):
-			self.track(child.get("loc"))
-			self.track(child.get("range"))
-			if child.get("kind") == "EnumConstantDecl":
-				enumerator = (qualified if scoped else self.qualify(scope, "")[:-2]) + "::" + child["name"]
-				self.probe.add(self.origin(enumerator), "static_assert(sizeof(%s) > 0, \"\");" % enumerator)
-			self.skip(child)
+		enclosing = qualified if node.get("scopedEnumTag") is not None else self.qualify(scope, "")[:-2]
+		for name in self.enumerators(node):
+			enumerator = enclosing + "::" + name
+			self.probe.add(self.origin(enumerator), "static_assert(sizeof(%s) > 0, \"\");" % enumerator)
 
 	def record(self, node, scope, template=None):
 		qualified = self.qualify(scope, node["name"])
@@ -388,7 +384,6 @@ class Walker:
 		if kind in ("FunctionTemplateDecl", "UsingDecl"):
 			return origin, "struct Using%d : Self { using Self::%s; };" % (self.serial_next(), name)
 		return None
-
 
 	@staticmethod
 	def function_template_signature(node, name):
